@@ -45,3 +45,7 @@ void InertialSettingsDlg::onReceiveReopen()
 {
     update_and_exec();
 }
+
+void InertialSettingsDlg::update_table()
+{
+}

@@ -18,6 +18,9 @@ public:
     ~InertialSettingsDlg() override;
 
     void about_to_exit();
+    // Rebuilds the sensor table from the controller; the add sensor dialog
+    // asks for it after adding sensors.
+    void update_table();
 
 public slots:
     void update_and_exec();
