@@ -8,6 +8,10 @@ TemperatureBar::TemperatureBar(QWidget* parent)
     : QProgressBar(parent)
 {
     setRange(0, 100);
+    // QProgressBar starts one below its minimum, i.e. "no value yet"; these
+    // bars start at 0 like the battery bar. The base setter leaves the style
+    // sheet alone until a real value arrives.
+    QProgressBar::setValue(0);
 }
 
 QString TemperatureBar::styleFor(int value)

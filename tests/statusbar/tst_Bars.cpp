@@ -17,6 +17,7 @@ private slots:
     void temperature_data();
     void temperature();
     void temperatureTextLeavesValue();
+    void bothStartAtZero();
 };
 
 void tst_Bars::cleanup()
@@ -95,6 +96,18 @@ void tst_Bars::temperatureTextLeavesValue()
     QCOMPARE(bar.format(), QString("23.5") + QChar(0x00B0) + "C");
     QCOMPARE(bar.value(), 40);
     QCOMPARE(bar.text(), QString("23.5") + QChar(0x00B0) + "C");
+}
+
+void tst_Bars::bothStartAtZero()
+{
+    BatteryBar battery;
+    TemperatureBar temperature;
+    QCOMPARE(battery.value(), 0);
+    QCOMPARE(temperature.value(), 0);
+    QCOMPARE(battery.minimum(), 0);
+    QCOMPARE(battery.maximum(), 100);
+    QCOMPARE(temperature.minimum(), 0);
+    QCOMPARE(temperature.maximum(), 100);
 }
 
 QTEST_MAIN(tst_Bars)
