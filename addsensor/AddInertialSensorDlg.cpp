@@ -208,8 +208,12 @@ void AddInertialSensorDlg::update_table(QList<Sensor> sensors)
             item->setFlags(ReadOnly);
         if (sensor.already_added) {
             accept->setFlags(Qt::NoItemFlags);
-            accept->setToolTip(tr("This sensor is already added"));
-            id->setToolTip(accept->toolTip());
+            // Greyed so that the row reads as settled, not as a pick forgotten.
+            const QBrush settled = table->palette().brush(QPalette::Disabled, QPalette::Text);
+            for (QTableWidgetItem* item : {id, vendor, model, channel, accept}) {
+                item->setForeground(settled);
+                item->setToolTip(tr("This sensor is already added"));
+            }
         } else {
             accept->setFlags(ReadOnly | Qt::ItemIsUserCheckable);
             accept->setCheckState(accept_all ? Qt::Checked : Qt::Unchecked);

@@ -42,7 +42,6 @@ public:
     void about_to_exit();
     int getNumTransceiver() const;
     QList<Sensor> get_added_sensors();
-    QList<Sensor> found_sensors() const { return found; }
 
 public slots:
     int update_and_exec();
