@@ -621,7 +621,10 @@ void tst_AddInertialSensorDlg::singleChannel()
         ChannelComboBox* chooser = w<ChannelComboBox>("comboBox_channel");
         chooserEnabled = chooser->isEnabled();
         QCOMPARE(chooser->currentText(), QString("2"));
-        chooser->setChannel(47);
+        chooser->showPopup();   // pick 47 in the grid as a user does
+        chooser->table()->setCurrentCell(4, 6);
+        QTest::keyClick(chooser->table(), Qt::Key_Return);
+        QCOMPARE(chooser->currentText(), QString("47"));
         w<QPushButton>("pushButton_scan")->click();
         cancelDuringScan = w<QPushButton>("pushButton_cancel")->isEnabled();
         chooserDuringScan = chooser->isEnabled();
