@@ -476,7 +476,8 @@ void AddInertialSensorDlg::add_sensor_to_foundList(int count)
 
         const QByteArray vendor = sensor.vendor.toLatin1();
         const QByteArray model = sensor.model.toLatin1();
-        if (io->get_string(reply, "inertial sensor_model_desc %s %s", vendor.constData(), model.constData()) != 0) {
+        if (io->get_string(reply, "inertial sensor_model_desc %s %s", vendor.constData(),
+                           model.constData()) != 0) {
             report("Error: Unable to get description of sensor to add");
             break;
         }
@@ -582,6 +583,25 @@ int AddInertialSensorDlg::body_is_free(int body)
     return std::strncmp(sensor, "none", sizeof sensor) == 0 ? 1 : 0;
 }
 
+int AddInertialSensorDlg::find_free_body(int bodies, int max_bodies)
+{
+    for (int b = 1; b <= bodies; ++b) {
+        const int free = body_is_free(b);
+        if (free != 0)
+            return free < 0 ? -1 : b;
+    }
+    for (int b = bodies + 1; b <= max_bodies; ++b) {
+        if (io->set_value("standard number_of_bodies %d", b) != 0) {
+            report("Error: Unable to set number of bodies");
+            return -1;
+        }
+        const int free = body_is_free(b);
+        if (free != 0)
+            return free < 0 ? -1 : b;
+    }
+    return 0;
+}
+
 void AddInertialSensorDlg::on_pushButton_apply_clicked()
 {
     WaitCursor cursor;
@@ -628,7 +648,8 @@ void AddInertialSensorDlg::on_pushButton_apply_clicked()
             return;
         }
         bodies = qBound(0, bodies, SaneCount);
-        const QByteArray key = QStringLiteral("%1 %2 %3").arg(sensor.vendor, sensor.model, sensor.serial).toLatin1();
+        const QByteArray key =
+            QStringLiteral("%1 %2 %3").arg(sensor.vendor, sensor.model, sensor.serial).toLatin1();
 
         if (storage_known) {
             bool has_storage = true;
@@ -643,25 +664,9 @@ void AddInertialSensorDlg::on_pushButton_apply_clicked()
             }
         }
 
-        int body = 0;
-        for (int b = 1; b <= bodies && body == 0; ++b) {
-            const int free = body_is_free(b);
-            if (free < 0)
-                return;
-            if (free)
-                body = b;
-        }
-        for (int b = bodies + 1; b <= max_bodies && body == 0; ++b) {
-            if (io->set_value("standard number_of_bodies %d", b) != 0) {
-                report("Error: Unable to set number of bodies");
-                return;
-            }
-            const int free = body_is_free(b);
-            if (free < 0)
-                return;
-            if (free)
-                body = b;
-        }
+        const int body = find_free_body(bodies, max_bodies);
+        if (body < 0)
+            return;
         if (body == 0) {
             not_added << sensor;
             continue;
@@ -678,8 +683,9 @@ void AddInertialSensorDlg::on_pushButton_apply_clicked()
     QString unplaced;
     for (const Sensor& sensor : not_added) {
         char reply[IOManager::ReplyCapacity] = {};
-        io->send_command(reply, "norvane inertial delete_sensor %s %s %s", sensor.vendor.toLatin1().constData(),
-                         sensor.model.toLatin1().constData(), sensor.serial.toLatin1().constData());
+        io->send_command(reply, "norvane inertial delete_sensor %s %s %s",
+                         sensor.vendor.toLatin1().constData(), sensor.model.toLatin1().constData(),
+                         sensor.serial.toLatin1().constData());
         unplaced += QLatin1Char('\n') + QString(sensor.serial).remove(QLatin1Char('\''));
     }
     if (processed) {

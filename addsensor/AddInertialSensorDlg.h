@@ -80,6 +80,9 @@ private:
     bool reset_scan_channels();
     // 1 free, 0 taken, -1 the controller could not say (already reported).
     int body_is_free(int body);
+    // The first free body, raising the body count up to the maximum when
+    // none is: 0 when there is none, -1 when the controller failed (reported).
+    int find_free_body(int bodies, int max_bodies);
     void report(const char* text) const;
 
     Ui_AddSenorDialog* ui;

@@ -263,7 +263,8 @@ void ChannelComboBox::fitPopup()
         return;
 
     const QFontMetrics metrics(grid->font());
-    const int cell_width = metrics.horizontalAdvance(QString::number(max_channel)) + 2 * metrics.averageCharWidth() + 2;
+    const int cell_width =
+        metrics.horizontalAdvance(QString::number(max_channel)) + 2 * metrics.averageCharWidth() + 2;
     const int cell_height = metrics.height() + 6;
     grid->horizontalHeader()->setMinimumSectionSize(cell_width);
     grid->verticalHeader()->setMinimumSectionSize(cell_height);
