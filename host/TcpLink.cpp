@@ -62,7 +62,8 @@ bool TcpLink::ensure_connected(QDeadlineTimer deadline, QString* error)
 {
     if (socket.state() == QAbstractSocket::ConnectedState)
         return true;
-    if (last_failed_attempt.isValid() && !last_failed_attempt.hasExpired(retry_interval_ms)) {
+    if (retry_interval_ms > 0 && last_failed_attempt.isValid()
+        && !last_failed_attempt.hasExpired(retry_interval_ms)) {
         *error = tr("no connection to the controller at %1 (%2)").arg(description(), last_connect_error);
         return false;
     }
