@@ -5,6 +5,13 @@
 #include <QTextBlock>
 #include <QTextCursor>
 
+namespace {
+
+// Each line remembers the text it was made from, which the decorations hide.
+constexpr int RawTextProperty = QTextFormat::UserProperty + 1;
+
+} // namespace
+
 LogView::LogView(QWidget* parent) : QPlainTextEdit(parent)
 {
     setReadOnly(true);
@@ -45,6 +52,9 @@ void LogView::append_entry(const QString& text, bool emphasised)
     } else if (!document()->isEmpty() && !document()->lastBlock().text().isEmpty()) {
         cursor.insertBlock();
     }
+    QTextBlockFormat block_format;
+    block_format.setProperty(RawTextProperty, text);
+    cursor.setBlockFormat(block_format);
     cursor.insertText(decorate(text), format);
 
     // Follow the newest entry unless the user scrolled back to read.
@@ -59,5 +69,14 @@ QStringList LogView::entries() const
     for (QTextBlock block = document()->firstBlock(); block.isValid(); block = block.next())
         if (!block.text().isEmpty())
             lines << block.text();
+    return lines;
+}
+
+QStringList LogView::texts() const
+{
+    QStringList lines;
+    for (QTextBlock block = document()->firstBlock(); block.isValid(); block = block.next())
+        if (!block.text().isEmpty())
+            lines << block.blockFormat().property(RawTextProperty).toString();
     return lines;
 }

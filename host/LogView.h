@@ -20,6 +20,8 @@ public:
     void append_entry(const QString& text, bool emphasised = false);
     // The entries as shown, oldest first.
     QStringList entries() const;
+    // The entries as they were appended: no time, no repeat count.
+    QStringList texts() const;
 
 private:
     QString decorate(const QString& text) const;

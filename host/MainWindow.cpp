@@ -2,6 +2,7 @@
 
 #include <QAction>
 #include <QCloseEvent>
+#include <QDir>
 #include <QFileInfo>
 #include <QHeaderView>
 #include <QLabel>
@@ -109,9 +110,9 @@ int MainWindow::load_modules_from(const QString& folder)
     report_loader_problems();
     const QList<ModuleLoader::Module> all = loader->modules();
     for (int i = before; i < all.size(); ++i)
-        install(all.at(i).module, all.at(i).file);
-    if (all.isEmpty())
-        log_note(tr("No module found in %1.").arg(folder), true);
+        add_module(all.at(i).module, all.at(i).file);
+    if (all.size() == before)
+        log_note(tr("No module found in %1.").arg(QDir::toNativeSeparators(folder)), true);
     return all.size() - before;
 }
 
@@ -121,7 +122,7 @@ bool MainWindow::load_module_file(const QString& path)
     ModuleInterface* module = loader->load_file(path);
     report_loader_problems();
     if (module && loader->modules().size() > before)
-        install(module, loader->modules().last().file);
+        add_module(module, loader->modules().last().file);
     return module != nullptr;
 }
 
@@ -133,8 +134,16 @@ void MainWindow::report_loader_problems()
     loader_problems_reported = problems.size();
 }
 
-void MainWindow::install(ModuleInterface* module, const QString& file)
+QStringList MainWindow::module_problems() const
 {
+    return loader->problems();
+}
+
+void MainWindow::add_module(ModuleInterface* module, const QString& file)
+{
+    if (!module || installed.contains(module) || shut_down)
+        return;
+    installed << module;
     IOManager* io = link;
     module->set_param(QStringLiteral("CommandManager"), QVariant::fromValue<IOManager*>(io));
     module->set_param(QStringLiteral("ModuleParent"), QVariant::fromValue<QWidget*>(this));
@@ -197,11 +206,11 @@ void MainWindow::shutdown_modules()
     if (shut_down)
         return;
     shut_down = true;
-    const QList<ModuleLoader::Module> loaded = loader->modules();
-    for (const ModuleLoader::Module& module : loaded)
-        module.module->about_to_exit_module();
-    for (const ModuleLoader::Module& module : loaded)
-        module.module->exit_module();
+    for (ModuleInterface* module : qAsConst(installed))
+        module->about_to_exit_module();
+    for (ModuleInterface* module : qAsConst(installed))
+        module->exit_module();
+    installed.clear();
     // Receivers still registered belong to objects about to go with their
     // libraries; nothing may reach them any more.
     const QStringList left = hub->receiver_names();
@@ -216,10 +225,7 @@ void MainWindow::shutdown_modules()
 
 QList<ModuleInterface*> MainWindow::modules() const
 {
-    QList<ModuleInterface*> result;
-    for (const ModuleLoader::Module& module : loader->modules())
-        result << module.module;
-    return result;
+    return installed;
 }
 
 QList<QAction*> MainWindow::module_actions() const
@@ -317,10 +323,10 @@ void MainWindow::on_action_quit_triggered()
 void MainWindow::on_action_about_triggered()
 {
     QStringList module_lines;
-    for (const ModuleLoader::Module& module : loader->modules())
+    for (ModuleInterface* module : qAsConst(installed))
         module_lines << QStringLiteral("<li>%1 %2</li>")
-                            .arg(module.module->get_module_name().toHtmlEscaped(),
-                                 module.module->get_module_version().toHtmlEscaped());
+                            .arg(module->get_module_name().toHtmlEscaped(),
+                                 module->get_module_version().toHtmlEscaped());
     const QString modules_html = module_lines.isEmpty() ? tr("<p>No modules loaded.</p>")
                                                         : QStringLiteral("<ul>%1</ul>").arg(module_lines.join(QString()));
     QMessageBox::about(this, tr("About Norvane Host"),

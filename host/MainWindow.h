@@ -51,6 +51,11 @@ public:
     bool connect_controller();
     int load_modules_from(const QString& folder);
     bool load_module_file(const QString& path);
+    // Installs a module that is not a plug-in file (built in, or a test's);
+    // the caller keeps it alive until shutdown_modules().
+    void add_module(ModuleInterface* module, const QString& origin);
+    // Why plug-in files could not be used, one sentence each.
+    QStringList module_problems() const;
     // Lets every module stop and destroy what it handed out, then unloads
     // them. Safe to call more than once.
     void shutdown_modules();
@@ -77,7 +82,6 @@ private slots:
     void on_action_aboutQt_triggered();
 
 private:
-    void install(ModuleInterface* module, const QString& file);
     void place_element(const QString& module_name, _GuiElement* element);
     void show_user_message(const QString& source, int type, const QString& text);
     void log_note(const QString& text, bool problem = false);
@@ -96,6 +100,7 @@ private:
     bool versions_known = false;
     bool shut_down = false;
     int loader_problems_reported = 0;
+    QList<ModuleInterface*> installed;
     QList<QPointer<QAction>> placed_actions;
     QList<QPointer<QWidget>> placed_status_widgets;
 };

@@ -68,7 +68,7 @@ ModuleInterface* ModuleLoader::load_file(const QString& path)
         return nullptr;
     }
     loaded << Module{module, canonical.isEmpty() ? path : canonical, loader};
-    qCInfo(lcHostModules).noquote() << tr("Loaded %1 %2 from %3")
+    qCDebug(lcHostModules).noquote() << tr("Loaded %1 %2 from %3")
                                            .arg(module->get_module_name(), module->get_module_version(), path);
     return module;
 }
