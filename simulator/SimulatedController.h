@@ -31,6 +31,9 @@ public:
     // One request line without its line feed, e.g. "norvane get inertial
     // number_of_sensors", answered with one reply line.
     SimReply handle(const QByteArray& line);
+
+private:
+    SimClock* clock;
 };
 
 #endif // SIMULATEDCONTROLLER_H
