@@ -572,15 +572,16 @@ int AddInertialSensorDlg::body_is_free(int body)
         report("Error: Unable to get calibration of body");
         return -1;
     }
-    // A calibrated body is taken whatever its sensor: spare the second query.
-    if (std::strncmp(calibrated, "no", sizeof calibrated) != 0)
-        return 0;
     char sensor[IOManager::ReplyCapacity] = {};
     if (io->get_string(sensor, "body inertial_sensor standard b%.2d", body) != 0) {
         report("Error: Unable to get inertial information of body");
         return -1;
     }
-    return std::strncmp(sensor, "none", sizeof sensor) == 0 ? 1 : 0;
+    // Free means not optically calibrated yet and carrying no sensor.
+    return std::strncmp(calibrated, "no", sizeof calibrated) == 0
+                   && std::strncmp(sensor, "none", sizeof sensor) == 0
+               ? 1
+               : 0;
 }
 
 int AddInertialSensorDlg::find_free_body(int bodies, int max_bodies)
@@ -678,19 +679,19 @@ void AddInertialSensorDlg::on_pushButton_apply_clicked()
         accept->setFlags(Qt::NoItemFlags);
     }
 
-    // Sensors without a body are taken off again before the settings table
-    // is rebuilt, so that it never lists them.
+    if (processed) {
+        if (auto* settings = qobject_cast<InertialSettingsDlg*>(parent_dialog))
+            settings->update_table();
+    }
+    // A sensor that found no body stays on the controller only until here:
+    // it is taken off again and the user told which ones, by serial.
     QString unplaced;
     for (const Sensor& sensor : not_added) {
         char reply[IOManager::ReplyCapacity] = {};
         io->send_command(reply, "norvane inertial delete_sensor %s %s %s",
                          sensor.vendor.toLatin1().constData(), sensor.model.toLatin1().constData(),
                          sensor.serial.toLatin1().constData());
-        unplaced += QLatin1Char('\n') + QString(sensor.serial).remove(QLatin1Char('\''));
-    }
-    if (processed) {
-        if (auto* settings = qobject_cast<InertialSettingsDlg*>(parent_dialog))
-            settings->update_table();
+        unplaced += QLatin1Char('\n') + sensor.serial;
     }
     cursor.restore();
     enable_if_possible_pushButton_apply(true);

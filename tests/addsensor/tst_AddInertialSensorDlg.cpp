@@ -781,7 +781,7 @@ void tst_AddInertialSensorDlg::applyPlacesSensors()
         "body inertial_sensor standard b02",
         "norvane inertial delete_sensor nv imu '2004'",
     }));
-    QCOMPARE(warning, QString("Sensor adding failed: Following sensors are not added:\n\n2004\n\n"
+    QCOMPARE(warning, QString("Sensor adding failed: Following sensors are not added:\n\n'2004'\n\n"
                               " because the maximum number of bodies is reached."));
     QTableWidget* table = w<QTableWidget>("tableWidget");
     QCOMPARE(table->item(0, 4)->flags(), Qt::NoItemFlags);
