@@ -2,8 +2,7 @@
 
 #include <cmath>
 
-#include "simulator/ManualClock.h"
-#include "simulator/SimulatedController.h"
+#include "ControllerProbe.h"
 
 // Calibrations as the progress dialogs poll them: through "status active",
 // "status progress", "status step_active" and "status step_progress", to
@@ -26,100 +25,76 @@ private slots:
     void refused_starts();
 };
 
+using namespace DefaultDevices;
+
 namespace {
 
-const QByteArray S1 = "NRV IMU3 '10231'";
-const QByteArray S2 = "NRV IMU3 '10232'";
-const QByteArray S4 = "NRV IMU3 '10234'";
-const QByteArray T1 = "NRV RD2 '70011'";
-
-QByteArray ask(SimulatedController& controller, const QByteArray& line)
-{
-    return controller.handle(line).line;
-}
-
-QByteArray value_of(SimulatedController& controller, const QByteArray& path)
-{
-    const QByteArray reply = ask(controller, "norvane get " + path);
-    const QByteArray prefix = "norvane set " + path + ' ';
-    return reply.startsWith(prefix) ? reply.mid(prefix.size()) : "<" + reply + ">";
-}
-
-double number_of(SimulatedController& controller, const QByteArray& path)
-{
-    bool ok = false;
-    const double value = value_of(controller, path).toDouble(&ok);
-    return ok ? value : -999.0;
-}
-
 // What the progress dialog sees in one poll.
-QByteArray status(SimulatedController& controller)
+QByteArray status(ControllerProbe& probe)
 {
-    return value_of(controller, "status active") + " | " + value_of(controller, "status step_active") + " | "
-           + value_of(controller, "status step_progress");
+    return probe.value("status active") + " | " + probe.value("status step_active") + " | "
+           + probe.value("status step_progress");
 }
 
 } // namespace
 
 void tst_SimCalibration::gyro_run()
 {
-    ManualClock clock;
-    SimulatedController controller(&clock);
-    QCOMPARE(ask(controller, "norvane set inertial sensor_gyro_calibrate " + S1 + " yes"), QByteArray("norvane ok"));
-    QCOMPARE(ask(controller, "norvane set inertial sensor_gyro_calibrate " + S2 + " yes"), QByteArray("norvane ok"));
-    QCOMPARE(ask(controller, "norvane set inertial sensor_gyro_calibrate " + S4 + " no"), QByteArray("norvane ok"));
-    QCOMPARE(ask(controller, "norvane cal inertial_gyro start"), QByteArray("norvane ok"));
-    QCOMPARE(status(controller), QByteArray("cal | cal 1 | 1 0.0"));
-    QVERIFY(ask(controller, "norvane get inertial new_sensor_gyro_residual " + S1).startsWith("norvane err 7 "));
+    ControllerProbe probe;
+    QCOMPARE(probe.ask("norvane set inertial sensor_gyro_calibrate " + S1 + " yes"), QByteArray("norvane ok"));
+    QCOMPARE(probe.ask("norvane set inertial sensor_gyro_calibrate " + S2 + " yes"), QByteArray("norvane ok"));
+    QCOMPARE(probe.ask("norvane set inertial sensor_gyro_calibrate " + S4 + " no"), QByteArray("norvane ok"));
+    QCOMPARE(probe.ask("norvane cal inertial_gyro start"), QByteArray("norvane ok"));
+    QCOMPARE(status(probe), QByteArray("cal | cal 1 | 1 0.0"));
+    QVERIFY(probe.ask("norvane get inertial new_sensor_gyro_residual " + S1).startsWith("norvane err 7 "));
     // Marks are fixed while the run lasts.
-    QVERIFY(ask(controller, "norvane set inertial sensor_gyro_calibrate " + S1 + " no").startsWith("norvane err 7 "));
+    QVERIFY(probe.ask("norvane set inertial sensor_gyro_calibrate " + S1 + " no").startsWith("norvane err 7 "));
 
-    clock.advance(7500);
-    QCOMPARE(number_of(controller, "status progress"), 0.5);
-    QCOMPARE(status(controller), QByteArray("cal | cal 1 | 1 0.5"));
-    const double p1 = number_of(controller, "inertial sensor_gyro_progress " + S1);
+    probe.clock.advance(7500);
+    QCOMPARE(probe.number("status progress"), 0.5);
+    QCOMPARE(status(probe), QByteArray("cal | cal 1 | 1 0.5"));
+    const double p1 = probe.number("inertial sensor_gyro_progress " + S1);
     QVERIFY(p1 > 0.5 && p1 <= 0.625);
-    QCOMPARE(number_of(controller, "inertial sensor_gyro_progress " + S4), 0.0);
+    QCOMPARE(probe.number("inertial sensor_gyro_progress " + S4), 0.0);
 
     // Each sensor finishes on its own, before the run does.
     QStringList order;
     for (int t = 0; t < 15; ++t) {
-        clock.advance(500);
+        probe.clock.advance(500);
         for (const QByteArray& s : {S1, S2})
             if (!order.contains(QString::fromLatin1(s))
-                && !ask(controller, "norvane get inertial new_sensor_gyro_residual " + s).startsWith("norvane err"))
+                && !probe.ask("norvane get inertial new_sensor_gyro_residual " + s).startsWith("norvane err"))
                 order << QString::fromLatin1(s);
     }
     QCOMPARE(order.size(), 2);
-    QCOMPARE(status(controller), QByteArray("none | none | 1 1.0"));
-    QCOMPARE(number_of(controller, "status progress"), 1.0);
-    QCOMPARE(number_of(controller, "inertial sensor_gyro_progress " + S1), 1.0);
-    QCOMPARE(value_of(controller, "status err"), QByteArray("0 \"\""));
-    const double residual = number_of(controller, "inertial new_sensor_gyro_residual " + S2);
+    QCOMPARE(status(probe), QByteArray("none | none | 1 1.0"));
+    QCOMPARE(probe.number("status progress"), 1.0);
+    QCOMPARE(probe.number("inertial sensor_gyro_progress " + S1), 1.0);
+    QCOMPARE(probe.value("status err"), QByteArray("0 \"\""));
+    const double residual = probe.number("inertial new_sensor_gyro_residual " + S2);
     QVERIFY(residual > 0.0 && residual < 1.0);
-    QVERIFY(ask(controller, "norvane get inertial new_sensor_gyro_residual " + S4).startsWith("norvane err 7 "));
+    QVERIFY(probe.ask("norvane get inertial new_sensor_gyro_residual " + S4).startsWith("norvane err 7 "));
 
-    QCOMPARE(ask(controller, "norvane inertial accept_new_sensor_gyro " + S2), QByteArray("norvane ok"));
-    QVERIFY(ask(controller, "norvane inertial accept_new_sensor_gyro " + S2).startsWith("norvane err 7 "));
-    QCOMPARE(ask(controller, "norvane set inertial sensor_gyro_calibrate " + S2 + " no"), QByteArray("norvane ok"));
+    QCOMPARE(probe.ask("norvane inertial accept_new_sensor_gyro " + S2), QByteArray("norvane ok"));
+    QVERIFY(probe.ask("norvane inertial accept_new_sensor_gyro " + S2).startsWith("norvane err 7 "));
+    QCOMPARE(probe.ask("norvane set inertial sensor_gyro_calibrate " + S2 + " no"), QByteArray("norvane ok"));
     // The run stopped tracking; starting it again is up to the front end.
-    QCOMPARE(ask(controller, "norvane tracking start"), QByteArray("norvane ok"));
-    QCOMPARE(value_of(controller, "status active"), QByteArray("tracking"));
+    QCOMPARE(probe.ask("norvane tracking start"), QByteArray("norvane ok"));
+    QCOMPARE(probe.value("status active"), QByteArray("tracking"));
 }
 
 void tst_SimCalibration::gyro_residual_of_a_cold_sensor()
 {
     const auto residual = [](bool warm_up) {
-        ManualClock clock;
-        SimulatedController controller(&clock);
+        ControllerProbe probe;
         if (warm_up) {
-            ask(controller, "norvane set inertial warmup yes");
-            clock.advance(400 * 1000);
+            probe.ask("norvane set inertial warmup yes");
+            probe.clock.advance(400 * 1000);
         }
-        ask(controller, "norvane set inertial sensor_gyro_calibrate " + S1 + " yes");
-        ask(controller, "norvane cal inertial_gyro start");
-        clock.advance(20 * 1000);
-        return number_of(controller, "inertial new_sensor_gyro_residual " + S1);
+        probe.ask("norvane set inertial sensor_gyro_calibrate " + S1 + " yes");
+        probe.ask("norvane cal inertial_gyro start");
+        probe.clock.advance(20 * 1000);
+        return probe.number("inertial new_sensor_gyro_residual " + S1);
     };
     const double warm = residual(true);
     const double cold = residual(false);
@@ -129,50 +104,48 @@ void tst_SimCalibration::gyro_residual_of_a_cold_sensor()
 
 void tst_SimCalibration::gyro_losing_a_sensor()
 {
-    ManualClock clock;
-    SimulatedController controller(&clock);
-    ask(controller, "norvane set inertial sensor_gyro_calibrate " + S2 + " yes");
-    QCOMPARE(ask(controller, "norvane cal inertial_gyro start"), QByteArray("norvane ok"));
-    clock.advance(3000);
+    ControllerProbe probe;
+    probe.ask("norvane set inertial sensor_gyro_calibrate " + S2 + " yes");
+    QCOMPARE(probe.ask("norvane cal inertial_gyro start"), QByteArray("norvane ok"));
+    probe.clock.advance(3000);
     // The sensor is sent to a channel its transceiver does not hear.
-    QCOMPARE(ask(controller, "norvane set inertial sensor_radio_channel " + S2 + " 70"), QByteArray("norvane ok"));
-    clock.advance(500);
+    QCOMPARE(probe.ask("norvane set inertial sensor_radio_channel " + S2 + " 70"), QByteArray("norvane ok"));
+    probe.clock.advance(500);
     // The progress stays where the run broke off.
-    QCOMPARE(status(controller), QByteArray("err | err | 1 0.233333"));
-    QCOMPARE(ask(controller, "norvane get status err"),
+    QCOMPARE(status(probe), QByteArray("err | err | 1 0.233333"));
+    QCOMPARE(probe.ask("norvane get status err"),
              "norvane set status err 31 \"Lost contact to sensor " + S2 + "\"");
     // The failure stays the controller's state until tracking starts again.
-    clock.advance(60 * 1000);
-    QCOMPARE(value_of(controller, "status active"), QByteArray("err"));
-    QCOMPARE(ask(controller, "norvane tracking start"), QByteArray("norvane ok"));
-    QCOMPARE(value_of(controller, "status active"), QByteArray("tracking"));
-    QCOMPARE(value_of(controller, "status step_active"), QByteArray("none"));
-    QCOMPARE(value_of(controller, "status err"), "31 \"Lost contact to sensor " + S2 + "\"");
+    probe.clock.advance(60 * 1000);
+    QCOMPARE(probe.value("status active"), QByteArray("err"));
+    QCOMPARE(probe.ask("norvane tracking start"), QByteArray("norvane ok"));
+    QCOMPARE(probe.value("status active"), QByteArray("tracking"));
+    QCOMPARE(probe.value("status step_active"), QByteArray("none"));
+    QCOMPARE(probe.value("status err"), "31 \"Lost contact to sensor " + S2 + "\"");
 }
 
 void tst_SimCalibration::handeye_run()
 {
     // What the hybrid body dialog sends, in its order.
-    ManualClock clock;
-    SimulatedController controller(&clock);
-    QCOMPARE(ask(controller, "norvane tracking stop"), QByteArray("norvane ok"));
-    QCOMPARE(ask(controller, "norvane set inertial sensor_handeye_calibrate " + S2 + " yes"), QByteArray("norvane ok"));
-    QCOMPARE(ask(controller, "norvane set body active standard b02 yes"), QByteArray("norvane ok"));
-    QCOMPARE(ask(controller, "norvane tracking start"), QByteArray("norvane ok"));
-    QCOMPARE(value_of(controller, "status active"), QByteArray("tracking"));
-    QCOMPARE(ask(controller, "norvane tracking stop"), QByteArray("norvane ok"));
-    QCOMPARE(ask(controller, "norvane cal inertial_handeye start"), QByteArray("norvane ok"));
-    clock.advance(10 * 1000);
-    QCOMPARE(status(controller), QByteArray("cal | cal 1 | 1 0.5"));
-    QCOMPARE(number_of(controller, "cal step_duration inertial_handeye s01"), 20.0);
-    clock.advance(10 * 1000);
-    QCOMPARE(value_of(controller, "status active"), QByteArray("none"));
+    ControllerProbe probe;
+    QCOMPARE(probe.ask("norvane tracking stop"), QByteArray("norvane ok"));
+    QCOMPARE(probe.ask("norvane set inertial sensor_handeye_calibrate " + S2 + " yes"), QByteArray("norvane ok"));
+    QCOMPARE(probe.ask("norvane set body active standard b02 yes"), QByteArray("norvane ok"));
+    QCOMPARE(probe.ask("norvane tracking start"), QByteArray("norvane ok"));
+    QCOMPARE(probe.value("status active"), QByteArray("tracking"));
+    QCOMPARE(probe.ask("norvane tracking stop"), QByteArray("norvane ok"));
+    QCOMPARE(probe.ask("norvane cal inertial_handeye start"), QByteArray("norvane ok"));
+    probe.clock.advance(10 * 1000);
+    QCOMPARE(status(probe), QByteArray("cal | cal 1 | 1 0.5"));
+    QCOMPARE(probe.number("cal step_duration inertial_handeye s01"), 20.0);
+    probe.clock.advance(10 * 1000);
+    QCOMPARE(probe.value("status active"), QByteArray("none"));
 
-    const double residual = number_of(controller, "inertial new_sensor_handeye_residual " + S2);
-    const double delay = number_of(controller, "inertial new_sensor_delay " + S2);
+    const double residual = probe.number("inertial new_sensor_handeye_residual " + S2);
+    const double delay = probe.number("inertial new_sensor_delay " + S2);
     QVERIFY(residual > 0.0 && residual < 5.0);
     QVERIFY(delay >= 6.0 && delay <= 20.0);
-    const QList<QByteArray> words = value_of(controller, "inertial new_sensor_handeye " + S2).split(' ');
+    const QList<QByteArray> words = probe.value("inertial new_sensor_handeye " + S2).split(' ');
     QCOMPARE(words.size(), 12);
     double m[12];
     for (int i = 0; i < 12; ++i) {
@@ -193,10 +166,10 @@ void tst_SimCalibration::handeye_run()
                        + c[6] * (c[1] * c[5] - c[4] * c[2]);
     QVERIFY(std::fabs(det - 1.0) < 1e-4);
 
-    QCOMPARE(value_of(controller, "inertial sensor_handeye " + S2), QByteArray("none"));
-    QCOMPARE(ask(controller, "norvane inertial accept_new_sensor_handeye " + S2), QByteArray("norvane ok"));
-    QCOMPARE(value_of(controller, "inertial sensor_handeye " + S2), QByteArray("standard b02"));
-    QCOMPARE(ask(controller, "norvane set inertial sensor_handeye_calibrate " + S2 + " no"), QByteArray("norvane ok"));
+    QCOMPARE(probe.value("inertial sensor_handeye " + S2), QByteArray("none"));
+    QCOMPARE(probe.ask("norvane inertial accept_new_sensor_handeye " + S2), QByteArray("norvane ok"));
+    QCOMPARE(probe.value("inertial sensor_handeye " + S2), QByteArray("standard b02"));
+    QCOMPARE(probe.ask("norvane set inertial sensor_handeye_calibrate " + S2 + " no"), QByteArray("norvane ok"));
 }
 
 void tst_SimCalibration::two_steps_with_pauses_data()
@@ -209,65 +182,60 @@ void tst_SimCalibration::two_steps_with_pauses_data()
 void tst_SimCalibration::two_steps_with_pauses()
 {
     QFETCH(bool, operator_starts_step_two);
-    ManualClock clock;
-    SimulatedController controller(&clock);
+    ControllerProbe probe;
     // What the progress dialog reads before it starts.
-    QCOMPARE(ask(controller, "norvane get cal step_pause inertial_alignment s01"),
+    QCOMPARE(probe.ask("norvane get cal step_pause inertial_alignment s01"),
              QByteArray("norvane set cal step_pause inertial_alignment s01 yes 3"));
-    QCOMPARE(ask(controller, "norvane get cal step_pause inertial_alignment s02"),
+    QCOMPARE(probe.ask("norvane get cal step_pause inertial_alignment s02"),
              QByteArray("norvane set cal step_pause inertial_alignment s02 yes 5"));
-    QCOMPARE(ask(controller, "norvane cal inertial_alignment start"), QByteArray("norvane ok"));
-    QCOMPARE(status(controller), QByteArray("cal | pause 1 | 1 0.0"));
-    clock.advance(3000);
-    QCOMPARE(status(controller), QByteArray("cal | cal 1 | 1 0.0"));
-    clock.advance(5000);
-    QCOMPARE(status(controller), QByteArray("cal | cal 1 | 1 0.5"));
-    QCOMPARE(number_of(controller, "status progress"), 0.2);
+    QCOMPARE(probe.ask("norvane cal inertial_alignment start"), QByteArray("norvane ok"));
+    QCOMPARE(status(probe), QByteArray("cal | pause 1 | 1 0.0"));
+    probe.clock.advance(3000);
+    QCOMPARE(status(probe), QByteArray("cal | cal 1 | 1 0.0"));
+    probe.clock.advance(5000);
+    QCOMPARE(status(probe), QByteArray("cal | cal 1 | 1 0.5"));
+    QCOMPARE(probe.number("status progress"), 0.2);
     // Step two cannot come before step one is over.
-    QVERIFY(ask(controller, "norvane cal inertial_alignment start_step s02").startsWith("norvane err 7 "));
-    clock.advance(5000);
-    QCOMPARE(status(controller), QByteArray("cal | pause 2 | 2 0.0"));
-    QCOMPARE(number_of(controller, "status progress"), 0.4);
+    QVERIFY(probe.ask("norvane cal inertial_alignment start_step s02").startsWith("norvane err 7 "));
+    probe.clock.advance(5000);
+    QCOMPARE(status(probe), QByteArray("cal | pause 2 | 2 0.0"));
+    QCOMPARE(probe.number("status progress"), 0.4);
     if (operator_starts_step_two) {
-        clock.advance(1000);
-        QCOMPARE(ask(controller, "norvane cal inertial_alignment start_step s02"), QByteArray("norvane ok"));
+        probe.clock.advance(1000);
+        QCOMPARE(probe.ask("norvane cal inertial_alignment start_step s02"), QByteArray("norvane ok"));
     } else {
-        clock.advance(5000);
+        probe.clock.advance(5000);
     }
-    QCOMPARE(status(controller), QByteArray("cal | cal 2 | 2 0.0"));
+    QCOMPARE(status(probe), QByteArray("cal | cal 2 | 2 0.0"));
     // Asking again once it runs does no harm.
-    QCOMPARE(ask(controller, "norvane cal inertial_alignment start_step s02"), QByteArray("norvane ok"));
-    clock.advance(7500);
-    QCOMPARE(status(controller), QByteArray("cal | cal 2 | 2 0.5"));
-    QCOMPARE(number_of(controller, "status progress"), 0.7);
-    clock.advance(7500);
-    QCOMPARE(status(controller), QByteArray("none | none | 2 1.0"));
+    QCOMPARE(probe.ask("norvane cal inertial_alignment start_step s02"), QByteArray("norvane ok"));
+    probe.clock.advance(7500);
+    QCOMPARE(status(probe), QByteArray("cal | cal 2 | 2 0.5"));
+    QCOMPARE(probe.number("status progress"), 0.7);
+    probe.clock.advance(7500);
+    QCOMPARE(status(probe), QByteArray("none | none | 2 1.0"));
 }
 
 void tst_SimCalibration::injected_failure()
 {
-    ManualClock clock;
-    SimulatedController controller(&clock);
-    QString error;
-    QVERIFY2(controller.load_scenario(R"({"extends": "default", "calibrations": {"inertial_alignment":
-        {"fail": {"at": 0.5, "code": 24, "text": "The body moved during step one"}}}})",
-                                      &error),
-             qPrintable(error));
+    ControllerProbe probe;
+    QVERIFY(probe.load(R"({"extends": "default", "calibrations": {"inertial_alignment":
+        {"fail": {"at": 0.5, "code": 24, "text": "The body moved during step one"}}}})"));
     // The rest of the type is kept.
-    QCOMPARE(value_of(controller, "cal number_of_steps inertial_alignment"), QByteArray("2"));
-    QCOMPARE(ask(controller, "norvane cal inertial_alignment start"), QByteArray("norvane ok"));
-    clock.advance(3000 + 10000 + 5000);
-    QCOMPARE(value_of(controller, "status step_active"), QByteArray("cal 2"));
-    clock.advance(2000);
-    QCOMPARE(value_of(controller, "status step_active"), QByteArray("cal 2"));
-    clock.advance(1500);
-    QCOMPARE(value_of(controller, "status active"), QByteArray("err"));
-    QCOMPARE(value_of(controller, "status step_active"), QByteArray("err"));
-    const QByteArray reply = ask(controller, "norvane get status err");
+    QCOMPARE(probe.value("cal number_of_steps inertial_alignment"), QByteArray("2"));
+    QCOMPARE(probe.ask("norvane cal inertial_alignment start"), QByteArray("norvane ok"));
+    probe.clock.advance(3000 + 10000 + 5000);
+    QCOMPARE(probe.value("status step_active"), QByteArray("cal 2"));
+    probe.clock.advance(2000);
+    QCOMPARE(probe.value("status step_active"), QByteArray("cal 2"));
+    probe.clock.advance(1500);
+    QCOMPARE(probe.value("status active"), QByteArray("err"));
+    QCOMPARE(probe.value("status step_active"), QByteArray("err"));
+    const QByteArray reply = probe.ask("norvane get status err");
     QCOMPARE(reply, QByteArray("norvane set status err 24 \"The body moved during step one\""));
     // A new run clears the failure.
-    QCOMPARE(ask(controller, "norvane cal reflex_scan start"), QByteArray("norvane ok"));
-    QCOMPARE(value_of(controller, "status err"), QByteArray("0 \"\""));
+    QCOMPARE(probe.ask("norvane cal reflex_scan start"), QByteArray("norvane ok"));
+    QCOMPARE(probe.value("status err"), QByteArray("0 \"\""));
 }
 
 void tst_SimCalibration::stopping_data()
@@ -300,15 +268,14 @@ void tst_SimCalibration::stopping()
     QFETCH(QByteArray, stop);
     QFETCH(QByteArray, reply);
     QFETCH(QByteArray, active);
-    ManualClock clock;
-    SimulatedController controller(&clock);
-    ask(controller, "norvane set inertial sensor_gyro_calibrate " + S1 + " yes");
-    QCOMPARE(ask(controller, "norvane cal " + type + " start"), QByteArray("norvane ok"));
-    clock.advance(2000);
-    QCOMPARE(ask(controller, stop), reply);
-    QCOMPARE(value_of(controller, "status active"), active);
+    ControllerProbe probe;
+    probe.ask("norvane set inertial sensor_gyro_calibrate " + S1 + " yes");
+    QCOMPARE(probe.ask("norvane cal " + type + " start"), QByteArray("norvane ok"));
+    probe.clock.advance(2000);
+    QCOMPARE(probe.ask(stop), reply);
+    QCOMPARE(probe.value("status active"), active);
     if (active == "none")
-        QVERIFY(ask(controller, "norvane get inertial new_sensor_gyro_residual " + S1).startsWith("norvane err 7 "));
+        QVERIFY(probe.ask("norvane get inertial new_sensor_gyro_residual " + S1).startsWith("norvane err 7 "));
 }
 
 void tst_SimCalibration::refused_starts_data()
@@ -349,15 +316,12 @@ void tst_SimCalibration::refused_starts()
     QFETCH(QList<QByteArray>, before);
     QFETCH(QByteArray, start);
     QFETCH(int, code);
-    ManualClock clock;
-    SimulatedController controller(&clock);
-    if (!scenario.isEmpty()) {
-        QString error;
-        QVERIFY2(controller.load_scenario("{\"extends\": \"default\", " + scenario + '}', &error), qPrintable(error));
-    }
+    ControllerProbe probe;
+    if (!scenario.isEmpty())
+        QVERIFY(probe.load("{\"extends\": \"default\", " + scenario + '}'));
     for (const QByteArray& line : before)
-        QCOMPARE(ask(controller, line), QByteArray("norvane ok"));
-    const QByteArray reply = ask(controller, start);
+        QCOMPARE(probe.ask(line), QByteArray("norvane ok"));
+    const QByteArray reply = probe.ask(start);
     QVERIFY2(reply.startsWith("norvane err " + QByteArray::number(code) + ' '), reply.constData());
 }
 
