@@ -274,8 +274,10 @@ void tst_SimCalibration::stopping()
     probe.clock.advance(2000);
     QCOMPARE(probe.ask(stop), reply);
     QCOMPARE(probe.value("status active"), active);
-    if (active == "none")
+    if (active == "none") {
         QVERIFY(probe.ask("norvane get inertial new_sensor_gyro_residual " + S1).startsWith("norvane err 7 "));
+        QVERIFY(probe.number("inertial sensor_gyro_progress " + S1) < 0.2);
+    }
 }
 
 void tst_SimCalibration::refused_starts_data()
