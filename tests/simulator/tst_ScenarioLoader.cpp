@@ -186,6 +186,8 @@ void tst_ScenarioLoader::errors_data()
                                << "test: bodies.standard[0].desc: must be printable ASCII";
     QTest::newRow("frequency outside limits") << QByteArray(R"({"inertial": {"frequency": 5000}})")
                                               << "test: inertial.frequency: must be a number from 50 to 500";
+    QTest::newRow("limits that leave the frequency out") << QByteArray(R"({"inertial": {"frequency_limits": [10, 100]}})")
+                                                         << "test: inertial.frequency: must lie within frequency_limits";
     QTest::newRow("battery over full") << QByteArray(R"({"extends": "default", "sensors": [
         {"serial": "1", "transceiver": "70011", "battery": 1.5}]})")
                                        << "test: sensors[0].battery: must be a number from 0 to 1";
