@@ -12,6 +12,9 @@ public:
     virtual ~SimClock() = default;
     // Milliseconds of simulated time since the clock was made.
     virtual qint64 now_ms() const = 0;
+    // How many simulated milliseconds pass per real one; the controller
+    // shortens its real answer delays by it.
+    virtual double speed() const { return 1.0; }
 };
 
 #endif // SIMCLOCK_H

@@ -5,9 +5,13 @@
 #include <QObject>
 #include <QString>
 
+#include <memory>
+
 #include "SimReply.h"
 
+class FaultInjector;
 class SimClock;
+class SimModel;
 
 // The simulated tracking controller: answers request lines of the wire
 // protocol (docs/protocol.md) from a stateful model whose time comes from a
@@ -31,6 +35,21 @@ public:
     // One request line without its line feed, e.g. "norvane get inertial
     // number_of_sensors", answered with one reply line.
     SimReply handle(const QByteArray& line);
+
+    // The state behind the answers, for a look from outside (a daemon's
+    // summary, a test's check); change it only through handle().
+    const SimModel& model() const;
+    // The "description" of the scenario loaded last.
+    QString scenario_description() const { return description; }
+
+private:
+    bool load(const QByteArray& json, const QString& origin, const QString& base_dir,
+              QString* error);
+
+    SimClock* clock;
+    std::unique_ptr<SimModel> state;
+    std::unique_ptr<FaultInjector> faults;
+    QString description;
 };
 
 #endif // SIMULATEDCONTROLLER_H

@@ -1,5 +1,5 @@
-// Paints the plug-in's images so that every picture in resources/ is our own
-// and can be redrawn: norvane-imagegen <output folder>.
+// Paints the plug-in's and the host's images so that every picture is our
+// own and can be redrawn: norvane-imagegen resources host/images.
 #include <QColor>
 #include <QDir>
 #include <QGuiApplication>
@@ -176,6 +176,27 @@ QImage handeye_frame(int index, int count)
     return image;
 }
 
+// The host's mark: three tracking rays meeting in a marker, on the blue of
+// the window icon.
+QImage host_logo(int size)
+{
+    QImage image = canvas(size, size);
+    QPainter p(&image);
+    p.setRenderHint(QPainter::Antialiasing);
+    const double s = size / 16.0;
+    p.setPen(Qt::NoPen);
+    p.setBrush(QColor(30, 70, 150));
+    p.drawRoundedRect(QRectF(0.5 * s, 0.5 * s, 15 * s, 15 * s), 3 * s, 3 * s);
+    p.setPen(QPen(QColor(235, 240, 250), 1.4 * s, Qt::SolidLine, Qt::RoundCap));
+    const QPointF marker(10.5 * s, 5.5 * s);
+    for (const QPointF& from : {QPointF(3 * s, 13 * s), QPointF(3 * s, 4 * s), QPointF(12 * s, 13 * s)})
+        p.drawLine(from, marker);
+    p.setPen(Qt::NoPen);
+    p.setBrush(QColor(255, 200, 40));
+    p.drawEllipse(marker, 2.2 * s, 2.2 * s);
+    return image;
+}
+
 bool save(const QImage& image, const QDir& dir, const QString& name)
 {
     if (image.save(dir.filePath(name)))
@@ -189,8 +210,8 @@ bool save(const QImage& image, const QDir& dir, const QString& name)
 int main(int argc, char** argv)
 {
     QGuiApplication app(argc, argv);
-    if (argc != 2) {
-        std::fprintf(stderr, "usage: norvane-imagegen <output folder>\n");
+    if (argc != 2 && argc != 3) {
+        std::fprintf(stderr, "usage: norvane-imagegen <plug-in image folder> [<host image folder>]\n");
         return 2;
     }
     QDir dir(QString::fromLocal8Bit(argv[1]));
@@ -209,5 +230,17 @@ int main(int argc, char** argv)
     for (int i = 1; ok && i <= frames; ++i)
         ok = save(handeye_frame(i - 1, frames), dir,
                   QStringLiteral("handeye_frame_%1.png").arg(i, 4, 10, QLatin1Char('0')));
+    if (ok && argc == 3) {
+        // The images the host offers its modules under fixed resource paths.
+        QDir host(QString::fromLocal8Bit(argv[2]));
+        host.mkpath(QStringLiteral("."));
+        ok = save(lamp(QColor(40, 180, 60)), host, QStringLiteral("green.png"))
+             && save(lamp(QColor(240, 200, 30)), host, QStringLiteral("yellow.png"))
+             && save(lamp(QColor(210, 40, 40)), host, QStringLiteral("red.png"))
+             && save(sensor_icon(QColor(60, 110, 200), 16), host, QStringLiteral("inertial_en.png"))
+             && save(sensor_icon(QColor(150, 150, 150), 16), host, QStringLiteral("inertial_dis.png"))
+             && save(host_logo(16), host, QStringLiteral("norvan_16x16.png"))
+             && save(host_logo(64), host, QStringLiteral("norvane_64x64.png"));
+    }
     return ok ? 0 : 1;
 }

@@ -1,0 +1,66 @@
+#ifndef SIMSERVER_H
+#define SIMSERVER_H
+
+#include <QByteArray>
+#include <QHostAddress>
+#include <QList>
+#include <QObject>
+#include <QString>
+
+#include "SimReply.h"
+
+class QTcpServer;
+class QTcpSocket;
+class SimulatedController;
+
+// Serves one simulated controller over TCP: each connection sends request
+// lines ending in LF and gets one reply line per request, in order. Several
+// clients share the controller, as several front ends share a real one.
+class SimServer : public QObject
+{
+    Q_OBJECT
+
+public:
+    // Longest request line accepted; a longer one is answered with an error
+    // and dropped, so a client cannot make the server hoard memory.
+    static constexpr int MaxLineLength = 64 * 1024;
+
+    // The controller is not owned and must outlive the server.
+    explicit SimServer(SimulatedController* controller, QObject* parent = nullptr);
+    ~SimServer() override;
+
+    bool listen(const QHostAddress& address, quint16 port, QString* error);
+    quint16 port() const;
+    int client_count() const { return clients.size(); }
+
+signals:
+    // After each request: what was asked and what the controller made of it.
+    void answered(int client, const QByteArray& request, const SimReply& reply);
+    void client_connected(int client, const QString& peer);
+    void client_disconnected(int client);
+
+private slots:
+    void accept_clients();
+
+private:
+    struct Client
+    {
+        int id = 0;
+        QTcpSocket* socket = nullptr;
+        QByteArray pending;     // received, not yet answered
+        bool waiting = false;   // a late answer is on its way
+        bool closing = false;   // hung up on purpose
+    };
+
+    void serve(Client* client);
+    void send(Client* client, const SimReply& reply);
+    void drop(Client* client);
+    Client* find(QTcpSocket* socket);
+
+    SimulatedController* controller;
+    QTcpServer* server;
+    QList<Client*> clients;
+    int next_id = 1;
+};
+
+#endif // SIMSERVER_H
