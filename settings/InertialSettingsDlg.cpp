@@ -96,6 +96,12 @@ QString sensor_line(const InertialSettingsDlg::sensor& s)
     return QStringList{s.vendor, s.model, s.serial}.join(QLatin1Char(' '));
 }
 
+// "d01": how the controller indexes its lists, counted from 1.
+QString list_key(int number)
+{
+    return QStringLiteral("d%1").arg(number, 2, 10, QLatin1Char('0'));
+}
+
 QString not_present_text()
 {
     return QCoreApplication::translate("InertialSettingsDlg", "not present");
@@ -358,6 +364,30 @@ QString InertialSettingsDlg::checked_text(int result, const char* reply, const Q
         return reply_text(reply);
     report(message);
     return fallback;
+}
+
+bool InertialSettingsDlg::read_count(int* count, const char* path, const QString& failure)
+{
+    *count = 0;
+    int reported = 0;
+    if (io->get_int(&reported, path) != 0) {
+        report(failure);
+        return false;
+    }
+    *count = sane_count(reported);
+    return true;
+}
+
+bool InertialSettingsDlg::read_list_item(SensorIdentity* identity, const char* format, int index,
+                                         const QString& failure)
+{
+    char reply[IOManager::ReplyCapacity];
+    if (io->get_string(reply, format, index) != 0) {
+        report(failure);
+        return false;
+    }
+    *identity = SensorIdentity::parse(reply_text(reply));
+    return true;
 }
 
 // --- controller state --------------------------------------------------------
@@ -653,21 +683,16 @@ bool InertialSettingsDlg::add_dongles()
 {
     transceiver_identities.clear();
     int count = 0;
-    if (io->get_int(&count, "inertial number_of_transceivers") != 0) {
-        report(tr("Error: Unable to get number of dongles"));
+    if (!read_count(&count, "inertial number_of_transceivers", tr("Error: Unable to get number of dongles")))
         return false;
-    }
-    count = sane_count(count);
     for (int i = 1; i <= count; ++i) {
-        char reply[IOManager::ReplyCapacity];
-        if (io->get_string(reply, "inertial transceiver d%.2d", i) != 0) {
-            report(tr("Error: Unable to get informations of dongle %1").arg(i));
+        SensorIdentity identity;
+        const QString failure = tr("Error: Unable to get informations of dongle %1").arg(i);
+        if (!read_list_item(&identity, "inertial transceiver d%.2d", i, failure))
             return false;
-        }
-        const SensorIdentity identity = SensorIdentity::parse(reply_text(reply));
         if (!identity.isValid()) {
             // Nothing could be asked about it: no further query would name it.
-            report(tr("Error: Unable to get informations of dongle %1").arg(i));
+            report(failure);
             continue;
         }
         transceiver_identities << identity.line();
@@ -695,7 +720,7 @@ bool InertialSettingsDlg::fill_dongle_row(int row, const QString& identity)
 
     QTableWidgetItem* device = text_item(id.deviceId(), Qt::ItemIsEnabled);
     device->setData(DongleSensorsRole, QStringList());
-    device->setData(DongleKeyRole, QStringLiteral("d%1").arg(number, 2, 10, QLatin1Char('0')));
+    device->setData(DongleKeyRole, list_key(number));
     table->setItem(row, ColDeviceId, device);
 
     const QString version = checked_text(
@@ -772,23 +797,17 @@ bool InertialSettingsDlg::add_sensors()
 {
     sensor_list.clear();
     int count = 0;
-    if (io->get_int(&count, "inertial number_of_sensors") != 0) {
-        report(tr("Could not get number of sensors"));
-        count = 0;
-    }
-    count = sane_count(count);
+    read_count(&count, "inertial number_of_sensors", tr("Could not get number of sensors"));
 
     for (int i = 1; i <= count; ++i) {
-        char reply[IOManager::ReplyCapacity];
-        if (io->get_string(reply, "inertial sensor d%.2d", i) != 0) {
-            report(tr("Could not get informations of sensor %1").arg(i));
+        SensorIdentity id;
+        if (!read_list_item(&id, "inertial sensor d%.2d", i, tr("Could not get informations of sensor %1").arg(i)))
             return false;
-        }
-        const SensorIdentity id = SensorIdentity::parse(reply_text(reply));
         if (!id.isValid()) {
             report(tr("Error: Unable to get vendor model of inertial sensor"));
             continue;
         }
+        char reply[IOManager::ReplyCapacity];
         const QString identity = id.line();
         const QByteArray line = latin(identity);
 
@@ -806,7 +825,7 @@ bool InertialSettingsDlg::add_sensors()
         } else {
             transceiver = reply_text(reply);
         }
-        sensor_list << sensor{QStringLiteral("d%1").arg(i, 2, 10, QLatin1Char('0')), id.vendor(),
+        sensor_list << sensor{list_key(i), id.vendor(),
                               id.model(), id.serial()};
 
         const int row = row_for_sensor(transceiver, identity);
@@ -1119,7 +1138,7 @@ int InertialSettingsDlg::get_row_of_dongle(QString identity) const
     const int index = transceiver_identities.indexOf(wanted);
     if (index < 0)
         return -1;
-    const QString key = QStringLiteral("d%1").arg(index + 1, 2, 10, QLatin1Char('0'));
+    const QString key = list_key(index + 1);
     for (int row = 0; row < ui->tableWidget->rowCount(); ++row) {
         const QTableWidgetItem* device = ui->tableWidget->item(row, ColDeviceId);
         if (device && device->data(DongleKeyRole).toString() == key)
@@ -1185,12 +1204,9 @@ QString InertialSettingsDlg::getSensorVendorModelSerial(int row) const
 void InertialSettingsDlg::get_all_wakeup_modes()
 {
     all_wakeup_modes.clear();
-    int count = 0;
-    if (io->get_int(&count, "inertial number_of_wakeup_modes") != 0) {
-        report(tr("Error: Unable to get number of wakeup modes of inertial system"));
+    if (!read_count(&number_of_wakeup_modes, "inertial number_of_wakeup_modes",
+                    tr("Error: Unable to get number of wakeup modes of inertial system")))
         return;
-    }
-    number_of_wakeup_modes = sane_count(count);
     for (int i = 1; i <= number_of_wakeup_modes; ++i) {
         char reply[IOManager::ReplyCapacity];
         if (io->get_string(reply, "inertial wakeup_mode t%.2d", i) != 0) {

@@ -138,6 +138,12 @@ private:
     // The reply of a query that returned `result`, or `fallback` after
     // reporting `message` when it failed.
     QString checked_text(int result, const char* reply, const QString& fallback, const QString& message);
+    // The length of a controller list, bounded to what two-digit indices
+    // reach; false, with 0, when the query failed and `failure` was reported.
+    bool read_count(int* count, const char* path, const QString& failure);
+    // The identity listed at `index` ("... d%.2d"); false when the query
+    // failed and `failure` was reported. A short reply gives an invalid one.
+    bool read_list_item(SensorIdentity* identity, const char* format, int index, const QString& failure);
 
     // Sensor table.
     void setup_table();

@@ -11,20 +11,16 @@
 #include "FakeController.h"
 #include "ModalDialogHelper.h"
 #include "SettingsScript.h"
-#include "module/BackendVersions.h"
-#include "module/InertialTrackingModule.h"
+#include "SettingsTestCase.h"
 #include "settings/InertialSettingsDlg.h"
 
 // The frame of the settings dialog: what each opening decides, its timers,
 // the keyboard, the reopen message and leaving.
-class tst_InertialSettingsDlg : public QObject
+class tst_InertialSettingsDlg : public SettingsTestCase
 {
     Q_OBJECT
 
 private slots:
-    void initTestCase();
-    void init();
-    void cleanup();
     void opening_data();
     void opening();
     void lockIconComesAndGoes();
@@ -57,32 +53,7 @@ private:
     };
     static Snapshot snapshot(InertialSettingsDlg& dialog);
     static QStringList running_timers(InertialSettingsDlg& dialog);
-
-    FakeController* fake = nullptr;
-    BackendVersions versions;
 };
-
-void tst_InertialSettingsDlg::initTestCase()
-{
-    InertialTrackingModule::init_resources();
-}
-
-void tst_InertialSettingsDlg::init()
-{
-    fake = new FakeController;
-    versions = BackendVersions();
-    versions.major = 1;
-    versions.minor = 21;
-}
-
-void tst_InertialSettingsDlg::cleanup()
-{
-    delete fake;
-    fake = nullptr;
-    QCOMPARE(ModalDialogHelper::pending(), 0);
-    ModalDialogHelper::clear_pending();
-    QCOMPARE(ModalDialogHelper::leaked_windows(), QStringList());
-}
 
 QStringList tst_InertialSettingsDlg::running_timers(InertialSettingsDlg& dialog)
 {

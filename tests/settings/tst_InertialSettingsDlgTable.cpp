@@ -7,8 +7,7 @@
 #include "FakeController.h"
 #include "ModalDialogHelper.h"
 #include "SettingsScript.h"
-#include "module/BackendVersions.h"
-#include "module/InertialTrackingModule.h"
+#include "SettingsTestCase.h"
 #include "settings/InertialSettingsDlg.h"
 #include "statusbar/BatteryBar.h"
 #include "statusbar/TemperatureBar.h"
@@ -18,14 +17,11 @@ using Dlg = InertialSettingsDlg;
 // The sensor table: how a rebuild lays out transceivers and sensors, which
 // failures end it and which leave a fallback, and the refreshes that run
 // while the dialog is open.
-class tst_InertialSettingsDlgTable : public QObject
+class tst_InertialSettingsDlgTable : public SettingsTestCase
 {
     Q_OBJECT
 
 private slots:
-    void initTestCase();
-    void init();
-    void cleanup();
     void typicalRows_data();
     void typicalRows();
     void rowsAreFoundByTheirData();
@@ -46,32 +42,7 @@ private slots:
 private:
     QTableWidget* table(Dlg& dialog) { return dialog.findChild<QTableWidget*>("tableWidget"); }
     QStringList column0(Dlg& dialog);
-
-    FakeController* fake = nullptr;
-    BackendVersions versions;
 };
-
-void tst_InertialSettingsDlgTable::initTestCase()
-{
-    InertialTrackingModule::init_resources();
-}
-
-void tst_InertialSettingsDlgTable::init()
-{
-    fake = new FakeController;
-    versions = BackendVersions();
-    versions.major = 1;
-    versions.minor = 21;
-}
-
-void tst_InertialSettingsDlgTable::cleanup()
-{
-    delete fake;
-    fake = nullptr;
-    QCOMPARE(ModalDialogHelper::pending(), 0);
-    ModalDialogHelper::clear_pending();
-    QCOMPARE(ModalDialogHelper::leaked_windows(), QStringList());
-}
 
 QStringList tst_InertialSettingsDlgTable::column0(Dlg& dialog)
 {

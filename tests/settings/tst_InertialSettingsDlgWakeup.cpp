@@ -7,30 +7,25 @@
 #include "FakeController.h"
 #include "ModalDialogHelper.h"
 #include "SettingsScript.h"
-#include "module/BackendVersions.h"
-#include "module/InertialTrackingModule.h"
+#include "SettingsTestCase.h"
 #include "settings/InertialSettingsDlg.h"
 
 using Dlg = InertialSettingsDlg;
 
 // Wake-up modes, per sensor and for all sensors at once, and the inertial
 // frequency with its limits and the table's frequency column.
-class tst_InertialSettingsDlgWakeup : public QObject
+class tst_InertialSettingsDlgWakeup : public SettingsTestCase
 {
     Q_OBJECT
 
 private slots:
-    void initTestCase();
-    void init();
-    void cleanup();
     void pageChoices_data();
     void pageChoices();
     void sensorChoicesAndNoComboWhenAsleep();
     void chooseForOneSensor_data();
     void chooseForOneSensor();
-    void failedModeSnapsBack();
-    void unreachableSensorSnapsBack();
-    void failedSleepTimeoutKeepsTheMode();
+    void changeFailures_data();
+    void changeFailures();
     void chooseForAllSensors_data();
     void chooseForAllSensors();
     void wheelLeavesModeAlone();
@@ -50,32 +45,7 @@ private:
     // activates it.
     static void choose(QComboBox* combo, int index);
     QList<FakeController::Call> settings() const;
-
-    FakeController* fake = nullptr;
-    BackendVersions versions;
 };
-
-void tst_InertialSettingsDlgWakeup::initTestCase()
-{
-    InertialTrackingModule::init_resources();
-}
-
-void tst_InertialSettingsDlgWakeup::init()
-{
-    fake = new FakeController;
-    versions = BackendVersions();
-    versions.major = 1;
-    versions.minor = 21;
-}
-
-void tst_InertialSettingsDlgWakeup::cleanup()
-{
-    delete fake;
-    fake = nullptr;
-    QCOMPARE(ModalDialogHelper::pending(), 0);
-    ModalDialogHelper::clear_pending();
-    QCOMPARE(ModalDialogHelper::leaked_windows(), QStringList());
-}
 
 QStringList tst_InertialSettingsDlgWakeup::entries(const QComboBox* combo)
 {
@@ -231,58 +201,47 @@ void tst_InertialSettingsDlgWakeup::chooseForOneSensor()
     QCOMPARE(fake->unexpected(), QList<QByteArray>());
 }
 
-void tst_InertialSettingsDlgWakeup::failedModeSnapsBack()
+void tst_InertialSettingsDlgWakeup::changeFailures_data()
 {
-    SettingsScript::typical().install(*fake);
-    fake->fail("inertial sensor_wakeup_mode NRV IMU9 'S0001' 'wm_tap'");
-    Dlg dialog(fake, nullptr, &versions);
-    QString shown;
-    SettingsScript::open(dialog, [&] {
-        fake->clear_log();
-        choose(sensorCombo(dialog, 2), 1);
-        shown = sensorCombo(dialog, 2)->currentText();
-    });
-    QCOMPARE(shown, QString("Wake by radio"));
-    QCOMPARE(fake->message_texts(), QStringList{"Error: Unable to set wakeup mode of sensor"});
-    QCOMPARE(fake->lines(), (QList<QByteArray>{"inertial sensor_present NRV IMU9 'S0001'",
-                                               "inertial sensor_wakeup_mode NRV IMU9 'S0001' 'wm_tap'",
-                                               "inertial sensor_wakeup_mode NRV IMU9 'S0001'"}));
+    QTest::addColumn<QByteArray>("failing");
+    QTest::addColumn<QString>("shown");
+    QTest::addColumn<QString>("message");
+    QTest::addColumn<QByteArrayList>("sent");
+
+    const QByteArray present = "inertial sensor_present NRV IMU9 'S0001'";
+    const QByteArray tap = "inertial sensor_wakeup_mode NRV IMU9 'S0001' 'wm_tap'";
+    const QByteArray sleep = "inertial sensor_sleep_timeout NRV IMU9 'S0001' 10";
+    QTest::newRow("refused mode: the combo snaps back to the controller's")
+        << tap << "Wake by radio" << "Error: Unable to set wakeup mode of sensor"
+        << QByteArrayList{present, tap, "inertial sensor_wakeup_mode NRV IMU9 'S0001'"};
+    QTest::newRow("sensor out of reach: nothing is sent")
+        << present << "Wake by radio" << "Error: Unable to reach sensor" << QByteArrayList{present};
+    QTest::newRow("refused time-out: the mode stays, nothing is re-read")
+        << sleep << "Wake on tap" << "Error: Unable to set sleep timeout of sensor"
+        << QByteArrayList{present, tap, sleep};
 }
 
-void tst_InertialSettingsDlgWakeup::unreachableSensorSnapsBack()
+void tst_InertialSettingsDlgWakeup::changeFailures()
 {
-    SettingsScript::typical().install(*fake);
-    Dlg dialog(fake, nullptr, &versions);
-    QString shown;
-    SettingsScript::open(dialog, [&] {
-        fake->reply("inertial sensor_present NRV IMU9 'S0001'", "no");
-        fake->clear_log();
-        choose(sensorCombo(dialog, 2), 1);
-        shown = sensorCombo(dialog, 2)->currentText();
-    });
-    QCOMPARE(shown, QString("Wake by radio"));
-    QCOMPARE(fake->message_texts(), QStringList{"Error: Unable to reach sensor"});
-    QCOMPARE(fake->lines(), QList<QByteArray>{"inertial sensor_present NRV IMU9 'S0001'"});
-}
+    QFETCH(QByteArray, failing);
+    QFETCH(QString, shown);
+    QFETCH(QString, message);
+    QFETCH(QByteArrayList, sent);
 
-void tst_InertialSettingsDlgWakeup::failedSleepTimeoutKeepsTheMode()
-{
     SettingsScript::typical().install(*fake);
     fake->accept("inertial sensor_wakeup_mode NRV IMU9 'S0001' 'wm_tap'");
-    fake->fail("inertial sensor_sleep_timeout NRV IMU9 'S0001' 10");
     Dlg dialog(fake, nullptr, &versions);
-    QString shown;
+    QString after;
     SettingsScript::open(dialog, [&] {
+        QVERIFY(sensorCombo(dialog, 2));
+        fake->fail(failing);
         fake->clear_log();
         choose(sensorCombo(dialog, 2), 1);
-        shown = sensorCombo(dialog, 2)->currentText();
+        after = sensorCombo(dialog, 2)->currentText();
     });
-    // The mode is set; only its time-out is missing, and nothing is re-read.
-    QCOMPARE(shown, QString("Wake on tap"));
-    QCOMPARE(fake->message_texts(), QStringList{"Error: Unable to set sleep timeout of sensor"});
-    QCOMPARE(fake->lines(), (QList<QByteArray>{"inertial sensor_present NRV IMU9 'S0001'",
-                                               "inertial sensor_wakeup_mode NRV IMU9 'S0001' 'wm_tap'",
-                                               "inertial sensor_sleep_timeout NRV IMU9 'S0001' 10"}));
+    QCOMPARE(after, shown);
+    QCOMPARE(fake->message_texts(), QStringList{message});
+    QCOMPARE(QByteArrayList(fake->lines()), sent);
 }
 
 void tst_InertialSettingsDlgWakeup::chooseForAllSensors_data()
