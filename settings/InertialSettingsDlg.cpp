@@ -7,6 +7,7 @@
 #include <QGuiApplication>
 #include <QHeaderView>
 #include <QKeyEvent>
+#include <QPointer>
 #include <QScrollBar>
 #include <QSet>
 #include <QTableWidgetItem>
@@ -212,6 +213,12 @@ void InertialSettingsDlg::stop_all_timers()
 
 int InertialSettingsDlg::update_and_exec()
 {
+    // Already open (the menu and a message can both ask): show it, once.
+    if (isVisible()) {
+        raise();
+        activateWindow();
+        return result();
+    }
     table_stale = true;
     inertial_available = false;
     {
@@ -343,6 +350,7 @@ void InertialSettingsDlg::set_warmup_lock(bool locked)
     ui->pushButton_addSensor->setEnabled(!locked);
     ui->doubleSpinBox_frequency->setEnabled(!locked);
     ui->comboBox_mode->setEnabled(!locked);
+    // The channel scan has no handler yet: off either way.
     ui->pushButton_scanAvailableChannels->setEnabled(false);
 }
 
@@ -1372,18 +1380,24 @@ void InertialSettingsDlg::wakeup_mode_active(const QString& text)
     const QString identity = data.left(blank);
     const QString mode = data.mid(blank + 1);
 
+    // Pending events run while the cursor changes; a refresh among them may
+    // replace this combo.
+    const QPointer<QComboBox> chosen(combo);
     wait_cursor_active(true);
     char reply[IOManager::ReplyCapacity];
     if (io->get_string(reply, "inertial sensor_present %s", latin(identity).constData()) != 0
         || reply_text(reply) != Yes) {
         wait_cursor_active(false);
         report(tr("Error: Unable to reach sensor"));
-        select_wakeup_entry(combo, identity, combo->property(ModeProperty).toString());
+        if (chosen)
+            select_wakeup_entry(chosen, identity, chosen->property(ModeProperty).toString());
         return;
     }
     const int result = set_sensor_wakeup_mode(identity, mode);
     if (result == -1) {
-        select_wakeup_entry(combo, identity, get_wakeup_modeID_of_sensor(identity));
+        const QString actual = get_wakeup_modeID_of_sensor(identity);
+        if (chosen)
+            select_wakeup_entry(chosen, identity, actual);
     } else if (result == 0) {
         set_all_sensorWakeupModes_ComboBoxes();
         set_comboBox_available_modes();

@@ -31,7 +31,7 @@ private slots:
     void returningToStaleSettingsPageRebuilds();
     void reopen_data();
     void reopen();
-    void reopenWhileOpenDoesNotNest();
+    void askedAgainWhileOpenDoesNotNest();
     void aboutToExitUnregisters();
     void addSensorOpensItsDialog();
     void editedCellHoldsRefresh();
@@ -348,20 +348,25 @@ void tst_InertialSettingsDlg::reopen()
     QCOMPARE(fake->lines(), QList<QByteArray>());
 }
 
-void tst_InertialSettingsDlg::reopenWhileOpenDoesNotNest()
+void tst_InertialSettingsDlg::askedAgainWhileOpenDoesNotNest()
 {
     SettingsScript::typical().install(*fake);
     InertialSettingsDlg dialog(fake, nullptr, &versions);
     int runs = 0;
+    QList<QByteArray> askedAgain;
     ModalDialogHelper::when_active("InertialSettingsDlg", [&](QWidget*) {
         ++runs;
+        fake->clear_log();
         fake->deliver("InertialModule", 1, "HybridBodyCalibration", "reopen");
         QCoreApplication::processEvents();
+        dialog.update_and_exec();
+        askedAgain = fake->lines();
         dialog.findChild<QPushButton*>("pushButton_exit")->click();
     });
     dialog.update_and_exec();
     QCoreApplication::processEvents();
     QCOMPARE(runs, 1);
+    QCOMPARE(askedAgain, QList<QByteArray>());
     QVERIFY(!dialog.isVisible());
 }
 
