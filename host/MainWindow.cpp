@@ -217,6 +217,11 @@ void MainWindow::shutdown_modules()
     if (!left.isEmpty())
         log_note(tr("Still registered at shutdown: %1").arg(left.join(QStringLiteral(", "))), true);
     hub->clear();
+    // The entries' dialogs are gone: nothing may open them any more.
+    for (const QPointer<QAction>& action : qAsConst(placed_actions))
+        if (action)
+            if (QMenu* menu = menu_of(action))
+                menu->removeAction(action);
     loader->unload_all();
     placed_actions.clear();
     placed_status_widgets.clear();

@@ -18,6 +18,8 @@ public:
 
     void reply(const QByteArray& request, const QByteArray& reply) { script.insert(request, reply); }
     void refuse_writes(bool refuse) { refusing = refuse; }
+    // As a transport reports a connection made or lost.
+    void simulate_connection(bool connected) { set_connected(connected); }
     // Requests that went out, in order.
     QList<QByteArray> written() const { return lines; }
 
