@@ -55,7 +55,9 @@ SimResult custom_only(SimModel& m, const SimModel::Body& b, const QByteArray& id
     return SimResult::done();
 }
 
-const SimHandlerTable& queries_table()
+} // namespace
+
+const SimHandlerTable& BodyParameters::queries()
 {
     static const SimHandlerTable table = {
         {"body number_of_bodies", [](SimModel& m, SimArgs& a) {
@@ -138,7 +140,7 @@ const SimHandlerTable& queries_table()
     return table;
 }
 
-const SimHandlerTable& settings_table()
+const SimHandlerTable& BodyParameters::settings()
 {
     static const SimHandlerTable table = {
         {"body inertial_sensor", [](SimModel& m, SimArgs& a) {
@@ -280,16 +282,4 @@ const SimHandlerTable& settings_table()
          }},
     };
     return table;
-}
-
-} // namespace
-
-const SimHandlerTable& BodyParameters::queries()
-{
-    return queries_table();
-}
-
-const SimHandlerTable& BodyParameters::settings()
-{
-    return settings_table();
 }

@@ -1,6 +1,5 @@
 #include "InertialParameters.h"
 
-
 #include <cmath>
 
 #include "SimArgs.h"
@@ -36,7 +35,21 @@ QByteArray sensor_channel(const SimModel::Sensor& s)
     return s.cable ? QByteArray("usb") : QByteArray::number(s.channel);
 }
 
-const SimHandlerTable& queries_table()
+// A radio channel the sensor's transceivers can use.
+bool channel_usable(const SimModel& m, const SimModel::Sensor& s, int channel)
+{
+    const SimModel::Transceiver* t = m.serving_transceiver(s);
+    if (t && t->available.contains(channel))
+        return true;
+    for (const SimModel::Transceiver& other : m.transceivers)
+        if (other.available.contains(channel))
+            return true;
+    return false;
+}
+
+} // namespace
+
+const SimHandlerTable& InertialParameters::queries()
 {
     static const SimHandlerTable table = {
         {"inertial available", [](SimModel& m, SimArgs& a) { return a.answer(SimFormat::yes_no(m.inertial_available)); }},
@@ -247,19 +260,7 @@ const SimHandlerTable& queries_table()
     return table;
 }
 
-// A radio channel the sensor's transceivers can use.
-bool channel_usable(const SimModel& m, const SimModel::Sensor& s, int channel)
-{
-    const SimModel::Transceiver* t = m.serving_transceiver(s);
-    if (t && t->available.contains(channel))
-        return true;
-    for (const SimModel::Transceiver& other : m.transceivers)
-        if (other.available.contains(channel))
-            return true;
-    return false;
-}
-
-const SimHandlerTable& settings_table()
+const SimHandlerTable& InertialParameters::settings()
 {
     static const SimHandlerTable table = {
         {"inertial sensor_radio_channel", [](SimModel& m, SimArgs& a) {
@@ -397,16 +398,4 @@ const SimHandlerTable& settings_table()
          }},
     };
     return table;
-}
-
-} // namespace
-
-const SimHandlerTable& InertialParameters::queries()
-{
-    return queries_table();
-}
-
-const SimHandlerTable& InertialParameters::settings()
-{
-    return settings_table();
 }

@@ -264,6 +264,8 @@ bool ScenarioLoader::read_inertial(const QJsonObject& o, SimModel* m)
     }
     if (!read(o, "frequency", path, &m->frequency, m->frequency_min, m->frequency_max))
         return false;
+    if (m->frequency < m->frequency_min || m->frequency > m->frequency_max)
+        return fail(at(path, "frequency"), "must lie within frequency_limits");
 
     QJsonArray modes;
     if (!read_array(o, "wakeup_modes", path, &modes))

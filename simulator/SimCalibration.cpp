@@ -206,8 +206,8 @@ double SimCalibration::sensor_progress(const QByteArray& identity) const
 {
     if (run.id != Gyro || !participants.contains(identity) || total_ms <= 0)
         return 0.0;
-    if (!active)
-        return error_pending ? qMin(1.0, overall / sensor_factor(identity)) : 1.0;
+    // A finished run is at 1 for everyone; a stopped or failed one stays
+    // where it broke off.
     return qMin(1.0, overall / sensor_factor(identity));
 }
 

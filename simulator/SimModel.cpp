@@ -82,7 +82,6 @@ SimModel::SimModel()
     reflex.steps = {{"Scanning the room for reflections", 8.0, 0.0}};
     reflex.interruptible = false;
     calibration.types = {gyro, handeye, alignment, reflex};
-    bodies = QList<Body>();
     for (int i = 0; i < max_bodies; ++i)
         bodies.append(Body());
 }

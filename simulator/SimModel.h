@@ -169,7 +169,7 @@ public:
     bool scan_done = false;
     int scan_polls_left = 0;                    // polls that still answer -1
     int scan_pending_polls = 2;
-    int scan_delay_ms = 600;
+    int scan_delay_ms = 400;
     int channel_scan_delay_ms = 300;
 
     // --- bodies and filter --------------------------------------------------

@@ -17,10 +17,10 @@ SimServer::SimServer(SimulatedController* controller, QObject* parent)
 
 SimServer::~SimServer()
 {
-    for (Client* client : qAsConst(clients)) {
+    // Sockets and clients are children and go with the server; only their
+    // last words must not reach a server that is half gone.
+    for (Client* client : qAsConst(clients))
         client->socket->disconnect(this);
-        delete client;
-    }
 }
 
 bool SimServer::listen(const QHostAddress& address, quint16 port, QString* error)
@@ -41,6 +41,7 @@ void SimServer::accept_clients()
 {
     while (QTcpSocket* socket = server->nextPendingConnection()) {
         auto* client = new Client;
+        client->setParent(this);
         client->id = next_id++;
         client->socket = socket;
         socket->setParent(this);
@@ -114,9 +115,10 @@ void SimServer::send(Client* client, const SimReply& reply)
 void SimServer::drop(Client* client)
 {
     clients.removeOne(client);
+    client->closing = true;
     emit client_disconnected(client->id);
     client->socket->deleteLater();
-    delete client;
+    client->deleteLater();
 }
 
 SimServer::Client* SimServer::find(QTcpSocket* socket)

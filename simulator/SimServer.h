@@ -43,7 +43,9 @@ private slots:
     void accept_clients();
 
 private:
-    struct Client
+    // A QObject so that it can go with deleteLater(): a socket may report
+    // its disconnection while the client is being served.
+    struct Client : QObject
     {
         int id = 0;
         QTcpSocket* socket = nullptr;

@@ -26,7 +26,9 @@ double pulse_limit(const SimModel& m)
     return m.system_type == "PORTAFRAME" ? 400.0 : 1000.0;
 }
 
-const SimHandlerTable& queries_table()
+} // namespace
+
+const SimHandlerTable& SystemParameters::queries()
 {
     static const SimHandlerTable table = {
         {"system version", [](SimModel& m, SimArgs& a) { return a.answer(m.version.text()); }},
@@ -91,7 +93,7 @@ const SimHandlerTable& queries_table()
     return table;
 }
 
-const SimHandlerTable& settings_table()
+const SimHandlerTable& SystemParameters::settings()
 {
     static const SimHandlerTable table = {
         {"tracking pulse", [](SimModel& m, SimArgs& a) {
@@ -134,16 +136,4 @@ const SimHandlerTable& settings_table()
          }},
     };
     return table;
-}
-
-} // namespace
-
-const SimHandlerTable& SystemParameters::queries()
-{
-    return queries_table();
-}
-
-const SimHandlerTable& SystemParameters::settings()
-{
-    return settings_table();
 }

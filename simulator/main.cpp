@@ -7,7 +7,6 @@
 #include <QTextStream>
 
 #include <cmath>
-#include <cstdio>
 
 #include "SimModel.h"
 #include "SimServer.h"

@@ -1,7 +1,6 @@
 #include <QtTest>
 
-#include "simulator/ManualClock.h"
-#include "simulator/SimulatedController.h"
+#include "ControllerProbe.h"
 
 // The controller's language against the default scenario: every family of
 // parameters answers in the form the plug-in reads, settings show in later
@@ -28,6 +27,8 @@ private slots:
     void sensor_lifecycle();
 };
 
+using namespace DefaultDevices;
+
 namespace {
 
 // A clock whose speed a test chooses, to see delays shrink with it.
@@ -41,27 +42,6 @@ public:
 private:
     double factor;
 };
-
-QByteArray ask(SimulatedController& controller, const QByteArray& line)
-{
-    return controller.handle(line).line;
-}
-
-// What a query's reply holds after its path.
-QByteArray value_of(SimulatedController& controller, const QByteArray& path)
-{
-    const QByteArray reply = ask(controller, "norvane get " + path);
-    const QByteArray prefix = "norvane set " + path + ' ';
-    return reply.startsWith(prefix) ? reply.mid(prefix.size()) : "<" + reply + ">";
-}
-
-const QByteArray S1 = "NRV IMU3 '10231'";    // on body 1, hybrid calibrated
-const QByteArray S2 = "NRV IMU3 '10232'";    // on body 2
-const QByteArray S3 = "NRV IMU3 '10233'";    // asleep, tap mode
-const QByteArray S4 = "NRV IMU3 '10234'";    // no body, low battery, no storage
-const QByteArray S5 = "NRV IMU3C '10235'";   // on cable, body 4
-const QByteArray T1 = "NRV RD2 '70011'";     // channel 35, scanned
-const QByteArray T2 = "NRV RD2 '70012'";     // channel 55, not scanned
 
 } // namespace
 
@@ -211,9 +191,8 @@ void tst_SimulatedController::queries()
 {
     QFETCH(QByteArray, path);
     QFETCH(QByteArray, value);
-    ManualClock clock;
-    SimulatedController controller(&clock);
-    QCOMPARE(ask(controller, "norvane get " + path), "norvane set " + path + ' ' + value);
+    ControllerProbe probe;
+    QCOMPARE(probe.ask("norvane get " + path), "norvane set " + path + ' ' + value);
 }
 
 void tst_SimulatedController::settings_data()
@@ -295,10 +274,9 @@ void tst_SimulatedController::settings()
     QFETCH(QByteArray, setting);
     QFETCH(QByteArray, path);
     QFETCH(QByteArray, value);
-    ManualClock clock;
-    SimulatedController controller(&clock);
-    QCOMPARE(ask(controller, "norvane set " + setting), QByteArray("norvane ok"));
-    QCOMPARE(value_of(controller, path), value);
+    ControllerProbe probe;
+    QCOMPARE(probe.ask("norvane set " + setting), QByteArray("norvane ok"));
+    QCOMPARE(probe.value(path), value);
 }
 
 void tst_SimulatedController::rejected_data()
@@ -394,12 +372,11 @@ void tst_SimulatedController::rejected()
     QFETCH(int, code);
     QFETCH(QByteArray, path);
     QFETCH(QByteArray, value);
-    ManualClock clock;
-    SimulatedController controller(&clock);
-    const QByteArray reply = ask(controller, line);
+    ControllerProbe probe;
+    const QByteArray reply = probe.ask(line);
     QVERIFY2(reply.startsWith("norvane err " + QByteArray::number(code) + " \""), reply.constData());
     QVERIFY2(reply.endsWith('"') && reply.count('"') >= 2, reply.constData());
-    QCOMPARE(value_of(controller, path), value);
+    QCOMPARE(probe.value(path), value);
 }
 
 void tst_SimulatedController::version_gates_data()
@@ -441,13 +418,9 @@ void tst_SimulatedController::version_gates()
     QFETCH(QByteArray, version);
     QFETCH(QByteArray, line);
     QFETCH(bool, known);
-    ManualClock clock;
-    SimulatedController controller(&clock);
-    QString error;
-    QVERIFY2(controller.load_scenario("{\"extends\": \"default\", \"system\": {\"version\": \"" + version + "\"}}",
-                                      &error),
-             qPrintable(error));
-    const QByteArray reply = ask(controller, line);
+    ControllerProbe probe;
+    QVERIFY(probe.load("{\"extends\": \"default\", \"system\": {\"version\": \"" + version + "\"}}"));
+    const QByteArray reply = probe.ask(line);
     QVERIFY2(reply.startsWith("norvane err 1 ") != known, reply.constData());
 }
 
@@ -472,13 +445,10 @@ void tst_SimulatedController::locked_configuration()
 {
     QFETCH(QByteArray, line);
     QFETCH(bool, allowed);
-    ManualClock clock;
-    SimulatedController controller(&clock);
-    QString error;
-    QVERIFY2(controller.load_scenario_file(QStringLiteral(SCENARIO_DIR "/locked_configuration.json"), &error),
-             qPrintable(error));
-    QCOMPARE(value_of(controller, "config is_changeable"), QByteArray("no"));
-    const QByteArray reply = ask(controller, line);
+    ControllerProbe probe;
+    QVERIFY(probe.load_file(QStringLiteral(SCENARIO_DIR "/locked_configuration.json")));
+    QCOMPARE(probe.value("config is_changeable"), QByteArray("no"));
+    const QByteArray reply = probe.ask(line);
     if (allowed)
         QVERIFY2(!reply.startsWith("norvane err"), reply.constData());
     else
@@ -531,31 +501,24 @@ void tst_SimulatedController::faults()
     QFETCH(bool, silent);
     QFETCH(bool, hang_up);
     QFETCH(QByteArray, warmup);
-    ManualClock clock;
-    SimulatedController controller(&clock);
-    QString error;
-    QVERIFY2(controller.load_scenario("{\"extends\": \"default\", \"faults\": [" + fault + "]}", &error),
-             qPrintable(error));
-    const SimReply answer = controller.handle(line);
+    ControllerProbe probe;
+    QVERIFY(probe.load("{\"extends\": \"default\", \"faults\": [" + fault + "]}"));
+    const SimReply answer = probe.controller.handle(line);
     QCOMPARE(answer.line, reply);
     QCOMPARE(answer.delay_ms, delay_ms);
     QCOMPARE(answer.silent, silent);
     QCOMPARE(answer.hang_up, hang_up);
-    QCOMPARE(value_of(controller, "inertial warmup"), warmup);
+    QCOMPARE(probe.value("inertial warmup"), warmup);
 }
 
 void tst_SimulatedController::fault_counting()
 {
-    ManualClock clock;
-    SimulatedController controller(&clock);
-    QString error;
-    QVERIFY2(controller.load_scenario(R"({"extends": "default", "faults": [
-        {"line": "norvane get inertial frequency", "kind": "fail", "skip": 2, "times": 2}]})",
-                                      &error),
-             qPrintable(error));
+    ControllerProbe probe;
+    QVERIFY(probe.load(R"({"extends": "default", "faults": [
+        {"line": "norvane get inertial frequency", "kind": "fail", "skip": 2, "times": 2}]})"));
     QList<bool> failed;
     for (int i = 0; i < 6; ++i)
-        failed << ask(controller, "norvane get inertial frequency").startsWith("norvane err");
+        failed << probe.ask("norvane get inertial frequency").startsWith("norvane err");
     QCOMPARE(failed, (QList<bool>{false, false, true, true, false, false}));
 }
 
@@ -585,39 +548,38 @@ void tst_SimulatedController::sensor_lifecycle()
 {
     // Found by a scan, added, put on a body, deleted: every answer on the
     // way agrees with the others.
-    ManualClock clock;
-    SimulatedController controller(&clock);
+    ControllerProbe probe;
     const QByteArray added = "NRV IMU3 '10241'";
-    QCOMPARE(ask(controller, "norvane set inertial number_of_scan_channels 1"), QByteArray("norvane ok"));
-    QCOMPARE(ask(controller, "norvane set inertial scan_transceiver_channel t01 " + T1 + " 55"),
+    QCOMPARE(probe.ask("norvane set inertial number_of_scan_channels 1"), QByteArray("norvane ok"));
+    QCOMPARE(probe.ask("norvane set inertial scan_transceiver_channel t01 " + T1 + " 55"),
              QByteArray("norvane ok"));
-    QCOMPARE(ask(controller, "norvane inertial scan_sensors"), QByteArray("norvane ok"));
+    QCOMPARE(probe.ask("norvane inertial scan_sensors"), QByteArray("norvane ok"));
     QByteArray count;
     for (int poll = 0; poll < 100 && (count.isEmpty() || count == "-1"); ++poll)
-        count = value_of(controller, "inertial number_of_scanned_sensors");
+        count = probe.value("inertial number_of_scanned_sensors");
     // The waiting sensor and the paired one that is awake; not the sleeper.
     QCOMPARE(count, QByteArray("2"));
-    QCOMPARE(value_of(controller, "inertial scanned_sensor d01"), added + " 55");
-    QCOMPARE(value_of(controller, "inertial scanned_sensor d02"), S4 + " 55");
-    QCOMPARE(ask(controller, "norvane set inertial number_of_scan_channels 0"), QByteArray("norvane ok"));
+    QCOMPARE(probe.value("inertial scanned_sensor d01"), added + " 55");
+    QCOMPARE(probe.value("inertial scanned_sensor d02"), S4 + " 55");
+    QCOMPARE(probe.ask("norvane set inertial number_of_scan_channels 0"), QByteArray("norvane ok"));
 
-    QCOMPARE(ask(controller, "norvane inertial add_sensor " + added + " 55"), QByteArray("norvane ok"));
-    QCOMPARE(value_of(controller, "inertial number_of_sensors"), QByteArray("6"));
-    QCOMPARE(value_of(controller, "inertial sensor d06"), added);
-    QCOMPARE(value_of(controller, "inertial transceiver_of_sensor " + added), T2);
-    QCOMPARE(value_of(controller, "inertial sensor_present " + added), QByteArray("yes"));
-    QCOMPARE(value_of(controller, "inertial sensor_has_storage " + added), QByteArray("yes"));
-    QCOMPARE(ask(controller, "norvane set body inertial_sensor standard b06 " + added), QByteArray("norvane ok"));
-    QCOMPARE(value_of(controller, "inertial body_of_sensor " + added), QByteArray("standard b06"));
-    QCOMPARE(ask(controller, "norvane set tracking pulse inertial_sensor " + added), QByteArray("norvane ok"));
+    QCOMPARE(probe.ask("norvane inertial add_sensor " + added + " 55"), QByteArray("norvane ok"));
+    QCOMPARE(probe.value("inertial number_of_sensors"), QByteArray("6"));
+    QCOMPARE(probe.value("inertial sensor d06"), added);
+    QCOMPARE(probe.value("inertial transceiver_of_sensor " + added), T2);
+    QCOMPARE(probe.value("inertial sensor_present " + added), QByteArray("yes"));
+    QCOMPARE(probe.value("inertial sensor_has_storage " + added), QByteArray("yes"));
+    QCOMPARE(probe.ask("norvane set body inertial_sensor standard b06 " + added), QByteArray("norvane ok"));
+    QCOMPARE(probe.value("inertial body_of_sensor " + added), QByteArray("standard b06"));
+    QCOMPARE(probe.ask("norvane set tracking pulse inertial_sensor " + added), QByteArray("norvane ok"));
 
-    QCOMPARE(ask(controller, "norvane inertial delete_sensor " + added), QByteArray("norvane ok"));
-    QCOMPARE(value_of(controller, "inertial number_of_sensors"), QByteArray("5"));
-    QCOMPARE(value_of(controller, "body inertial_sensor standard b06"), QByteArray("none"));
-    QCOMPARE(value_of(controller, "tracking pulse"), QByteArray("synchronous_cameras"));
-    QVERIFY(ask(controller, "norvane get inertial sensor_present " + added).startsWith("norvane err 5 "));
+    QCOMPARE(probe.ask("norvane inertial delete_sensor " + added), QByteArray("norvane ok"));
+    QCOMPARE(probe.value("inertial number_of_sensors"), QByteArray("5"));
+    QCOMPARE(probe.value("body inertial_sensor standard b06"), QByteArray("none"));
+    QCOMPARE(probe.value("tracking pulse"), QByteArray("synchronous_cameras"));
+    QVERIFY(probe.ask("norvane get inertial sensor_present " + added).startsWith("norvane err 5 "));
     // Still out there: it can be added again.
-    QCOMPARE(ask(controller, "norvane inertial add_sensor " + added + " 55"), QByteArray("norvane ok"));
+    QCOMPARE(probe.ask("norvane inertial add_sensor " + added + " 55"), QByteArray("norvane ok"));
 }
 
 QTEST_APPLESS_MAIN(tst_SimulatedController)
