@@ -2,6 +2,7 @@
 
 #include <QTemporaryDir>
 
+#include "ModalDialogHelper.h"
 #include "ScriptedLink.h"
 #include "host/MessageHub.h"
 #include "module/MessageReceiver.h"
@@ -40,6 +41,7 @@ class tst_ControllerLink : public QObject
     Q_OBJECT
 
 private slots:
+    void cleanup();
     void requestLines_data();
     void requestLines();
     void integers_data();
@@ -71,6 +73,12 @@ private slots:
     void traceHasEveryExchange();
     void messagesGoToHub();
 };
+
+void tst_ControllerLink::cleanup()
+{
+    QCOMPARE(ModalDialogHelper::pending(), 0);
+    QCOMPARE(ModalDialogHelper::leaked_windows(), QStringList());
+}
 
 void tst_ControllerLink::requestLines_data()
 {

@@ -2,6 +2,7 @@
 
 #include <QElapsedTimer>
 
+#include "ModalDialogHelper.h"
 #include "host/InProcessLink.h"
 #include "simulator/ManualClock.h"
 #include "simulator/SimulatedController.h"
@@ -14,6 +15,7 @@ class tst_InProcessLink : public QObject
     Q_OBJECT
 
 private slots:
+    void cleanup();
     void settingReflectedInQuery();
     void asynchronousScan();
     void faults_data();
@@ -26,6 +28,12 @@ private:
     static std::unique_ptr<InProcessLink> make_link(bool real_delays);
     static QByteArray faulty(const QByteArray& fault);
 };
+
+void tst_InProcessLink::cleanup()
+{
+    QCOMPARE(ModalDialogHelper::pending(), 0);
+    QCOMPARE(ModalDialogHelper::leaked_windows(), QStringList());
+}
 
 std::unique_ptr<InProcessLink> tst_InProcessLink::make_link(bool real_delays)
 {

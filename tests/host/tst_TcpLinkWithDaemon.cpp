@@ -4,6 +4,7 @@
 #include <QProcess>
 #include <QTemporaryDir>
 
+#include "ModalDialogHelper.h"
 #include "host/TcpLink.h"
 
 namespace {
@@ -102,6 +103,8 @@ void tst_TcpLinkWithDaemon::cleanup()
 {
     link.reset();
     stop_daemon();
+    QCOMPARE(ModalDialogHelper::pending(), 0);
+    QCOMPARE(ModalDialogHelper::leaked_windows(), QStringList());
 }
 
 void tst_TcpLinkWithDaemon::settingReflectedInQuery()
