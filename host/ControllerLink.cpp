@@ -68,28 +68,16 @@ QString quoted(const QByteArray& text)
     return QStringLiteral("\"%1%2\"").arg(shown, text.size() > Shown ? QStringLiteral("...") : QString());
 }
 
-// Reads a value that is one number and nothing else.
-template <typename T, typename Parse>
-int parse_single(const QByteArray& value, T* out, Parse parse, QString* error)
-{
-    T parsed = T();
-    if (!parse(value, &parsed)) {
-        *error = ControllerLink::tr("%1 is not a number").arg(quoted(value));
-        return ControllerLink::MalformedReply;
-    }
-    if (out)
-        *out = parsed;
-    return ControllerLink::Success;
-}
-
-// Reads the first `count` words of a value; the caller's array is written
-// only when every one of them is good.
+// Reads the first `count` words of a value, each of which must be a whole
+// number, as the controller's readers do ("27.0 36.0" read as one real is
+// 27.0); the caller's array is written only when every one of them is good.
 template <typename T, typename Parse>
 int parse_words(const QByteArray& value, int count, T* out, Parse parse, QString* error)
 {
     const QList<QByteArray> words = value.simplified().split(' ');
     if (value.simplified().isEmpty() || words.size() < count) {
-        *error = ControllerLink::tr("expected %1 numbers, got %2").arg(count).arg(quoted(value));
+        *error = count == 1 ? ControllerLink::tr("expected a number, got %1").arg(quoted(value))
+                            : ControllerLink::tr("expected %1 numbers, got %2").arg(count).arg(quoted(value));
         return ControllerLink::MalformedReply;
     }
     std::vector<T> parsed(static_cast<size_t>(count));
@@ -379,7 +367,7 @@ int ControllerLink::get_int(int* value, const char* format, ...)
 {
     NORVANE_FORMAT_LINE(path, format);
     return query(path, [value](const QByteArray& text, QString* error) {
-        return parse_single(text, value, to_int, error);
+        return parse_words(text, 1, value, to_int, error);
     });
 }
 
@@ -387,7 +375,7 @@ int ControllerLink::get_double(double* value, const char* format, ...)
 {
     NORVANE_FORMAT_LINE(path, format);
     return query(path, [value](const QByteArray& text, QString* error) {
-        return parse_single(text, value, to_double, error);
+        return parse_words(text, 1, value, to_double, error);
     });
 }
 

@@ -34,6 +34,8 @@ bool InProcessLink::write_request(const QByteArray& line, QDeadlineTimer, QStrin
 {
     answer = controller->handle(line);
     answered = true;
+    // A hang-up dropped the "connection"; this request made a new one.
+    set_connected(true);
     return true;
 }
 
@@ -50,8 +52,9 @@ ControllerLink::Result InProcessLink::read_reply(QByteArray* reply, QDeadlineTim
         return TransportFailure;
     }
     answered = false;
-    const double speed = sim_clock->speed() > 0 ? sim_clock->speed() : 1.0;
-    const qint64 delay = qint64(answer.delay_ms / speed);
+    // Already in real milliseconds: the simulator shortened long commands
+    // by its clock's speed.
+    const qint64 delay = qMax(0, answer.delay_ms);
     const qint64 left = qMax<qint64>(0, deadline.remainingTime());
     if (answer.silent || delay > left) {
         wait(left);
@@ -60,6 +63,11 @@ ControllerLink::Result InProcessLink::read_reply(QByteArray* reply, QDeadlineTim
         return TimedOut;
     }
     wait(delay);
+    if (answer.hang_up) {
+        set_connected(false);
+        *error = tr("the controller closed the connection in the middle of a reply");
+        return TransportFailure;
+    }
     // A reply is one line, as it would be on the wire.
     const int end = answer.line.indexOf('\n');
     *reply = end >= 0 ? answer.line.left(end) : answer.line;

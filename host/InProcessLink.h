@@ -12,9 +12,9 @@ class SimulatedController;
 // The simulated controller inside the host's own process: the default when
 // no controller address is given. Lines go through exactly the same
 // ControllerLink as over TCP, so the plug-in sees the same formatting,
-// capacity rule and failures. A late answer takes that long (divided by the
-// clock's speed) unless real delays are switched off; one later than the
-// time-out, or none at all, is a time-out.
+// capacity rule and failures. A late answer takes that long unless real
+// delays are switched off; one later than the time-out, or none at all, is a
+// time-out; a hang-up fails like a connection lost in the middle of a reply.
 class InProcessLink : public ControllerLink
 {
     Q_OBJECT

@@ -85,7 +85,7 @@ bool MainWindow::connect_controller()
     for (const QString& problem : qAsConst(problems))
         log_note(problem, true);
     if (versions_known)
-        log_note(tr("Controller %1: software %2, system type %3, firmware %4.%5.%6")
+        log_note(tr("Connected to the %1: software %2, system type %3, firmware %4.%5.%6.")
                      .arg(link->description(), VersionProbe::controller_version_text(versions),
                           versions.system_type)
                      .arg(versions.firmware_major)

@@ -22,10 +22,15 @@ TcpLink::~TcpLink()
     socket.abort();
 }
 
-QString TcpLink::description() const
+QString TcpLink::address() const
 {
     return host.contains(QLatin1Char(':')) ? QStringLiteral("[%1]:%2").arg(host).arg(port)
                                            : QStringLiteral("%1:%2").arg(host).arg(port);
+}
+
+QString TcpLink::description() const
+{
+    return tr("controller at %1").arg(address());
 }
 
 bool TcpLink::is_connected() const
@@ -64,7 +69,7 @@ bool TcpLink::ensure_connected(QDeadlineTimer deadline, QString* error)
         return true;
     if (retry_interval_ms > 0 && last_failed_attempt.isValid()
         && !last_failed_attempt.hasExpired(retry_interval_ms)) {
-        *error = tr("no connection to the controller at %1 (%2)").arg(description(), last_connect_error);
+        *error = tr("no connection to the controller at %1 (%2)").arg(address(), last_connect_error);
         return false;
     }
     socket.abort();
@@ -77,7 +82,7 @@ bool TcpLink::ensure_connected(QDeadlineTimer deadline, QString* error)
         socket.abort();
         last_failed_attempt.start();
         set_connected(false);
-        *error = tr("cannot connect to the controller at %1: %2").arg(description(), last_connect_error);
+        *error = tr("cannot connect to the controller at %1: %2").arg(address(), last_connect_error);
         return false;
     }
     // Requests are single short lines answered at once: Nagle's algorithm

@@ -23,6 +23,8 @@ public:
     ~TcpLink() override;
 
     QString description() const override;
+    // "127.0.0.1:4000", "[::1]:4000".
+    QString address() const;
     bool is_connected() const override;
     // Connects now rather than on the first request.
     bool connect_now(QString* error);

@@ -43,40 +43,38 @@ QString VersionProbe::controller_version_text(const BackendVersions& versions)
 bool VersionProbe::read(IOManager* io, BackendVersions* versions, QStringList* problems)
 {
     set_host_version(versions);
-    bool complete = true;
-    auto problem = [&](const QString& text) {
-        complete = false;
-        if (problems)
-            *problems << text;
+    QStringList found;
+    char reply[IOManager::ReplyCapacity];
+
+    // One query; false (and why in `found`) when it yields no usable text.
+    auto ask = [&](const char* path, const QString& what) {
+        if (io->get_string(reply, "%s", path) == 0)
+            return true;
+        found << QObject::tr("Could not read the controller's %1: %2").arg(what, why(io));
+        return false;
+    };
+    auto ask_version = [&](const char* path, const QString& what, int* major, int* minor, int* patch) {
+        if (!ask(path, what))
+            return;
+        int a = 0, b = 0, c = 0;
+        if (!parse(reply, &a, &b, &c)) {
+            found << QObject::tr("The controller's %1 \"%2\" is not of the form 1.21.0")
+                         .arg(what, QString::fromLatin1(reply));
+            return;
+        }
+        *major = a;
+        *minor = b;
+        *patch = c;
     };
 
-    char reply[IOManager::ReplyCapacity];
-    int major = 0, minor = 0, patch = 0;
-    if (io->get_string(reply, "system version") != 0)
-        problem(QObject::tr("Could not read the controller's software version: %1").arg(why(io)));
-    else if (!parse(reply, &major, &minor, &patch))
-        problem(QObject::tr("The controller's software version \"%1\" is not of the form 1.21.0")
-                    .arg(QString::fromLatin1(reply)));
-    else {
-        versions->major = major;
-        versions->minor = minor;
-        versions->patch = patch;
-    }
-
-    if (io->get_string(reply, "system type") != 0)
-        problem(QObject::tr("Could not read the controller's system type: %1").arg(why(io)));
-    else
+    ask_version("system version", QObject::tr("software version"), &versions->major, &versions->minor,
+                &versions->patch);
+    if (ask("system type", QObject::tr("system type")))
         versions->system_type = QString::fromLatin1(reply).trimmed();
+    ask_version("system firmware_version", QObject::tr("firmware version"), &versions->firmware_major,
+                &versions->firmware_minor, &versions->firmware_patch);
 
-    if (io->get_string(reply, "system firmware_version") != 0)
-        problem(QObject::tr("Could not read the controller's firmware version: %1").arg(why(io)));
-    else if (!parse(reply, &major, &minor, &patch))
-        problem(QObject::tr("The controller's firmware version \"%1\" is not of the form 1.2.3")
-                    .arg(QString::fromLatin1(reply)));
-    else {
-        versions->firmware_major = major;
-        versions->firmware_minor = minor;
-        versions->firmware_patch = patch;
-    }
-    return complete;
+    if (problems)
+        *problems << found;
+    return found.isEmpty();
 }

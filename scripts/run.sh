@@ -1,12 +1,17 @@
 #!/usr/bin/env bash
-# Builds and starts norvane-host on the embedded simulated controller.
+# Builds and starts norvane-host with the inertial plug-in on the embedded
+# simulated controller. Arguments go to norvane-host (try --help).
+# Without a display it takes the tour instead: a picture of the window and of
+# every dialog the plug-in offers, into $NORVANE_TOUR_DIR (default: tour/).
 set -euo pipefail
 cd "$(dirname "$0")/.."
 ./scripts/install-deps.sh
 cmake -S . -B build -G Ninja
-cmake --build build -j "$(nproc)"
-if [ ! -x build/bin/norvane-host ]; then
-    echo "Built the plug-in (build/bin/libInertialTracking.so); norvane-host is not part of this build yet."
-    exit 0
+cmake --build build -j "$(nproc)" --target norvane-host
+if [ -z "${DISPLAY:-}" ] && [ -z "${WAYLAND_DISPLAY:-}" ]; then
+    folder=${NORVANE_TOUR_DIR:-tour}
+    echo "No display (\$DISPLAY and \$WAYLAND_DISPLAY are empty), so norvane-host cannot open its window."
+    echo "Taking the tour instead: pictures of the window and the plug-in's dialogs go to $(realpath -m "$folder")/"
+    exec build/bin/norvane-host --tour "$folder" "$@"
 fi
 exec build/bin/norvane-host "$@"

@@ -2,6 +2,7 @@
 
 #include <QTemporaryDir>
 
+#include "ModalDialogHelper.h"
 #include "ScriptedLink.h"
 #include "host/MessageHub.h"
 #include "module/MessageReceiver.h"
@@ -40,6 +41,7 @@ class tst_ControllerLink : public QObject
     Q_OBJECT
 
 private slots:
+    void cleanup();
     void requestLines_data();
     void requestLines();
     void integers_data();
@@ -71,6 +73,12 @@ private slots:
     void traceHasEveryExchange();
     void messagesGoToHub();
 };
+
+void tst_ControllerLink::cleanup()
+{
+    QCOMPARE(ModalDialogHelper::pending(), 0);
+    QCOMPARE(ModalDialogHelper::leaked_windows(), QStringList());
+}
 
 void tst_ControllerLink::requestLines_data()
 {
@@ -110,7 +118,7 @@ void tst_ControllerLink::integers_data()
     QTest::newRow("blanks around") << answer(path, " 7 ") << 0 << 7;
     QTest::newRow("negative") << answer(path, "-1") << 0 << -1;
     QTest::newRow("trailing garbage") << answer(path, "5x") << int(ControllerLink::MalformedReply) << -99;
-    QTest::newRow("two numbers") << answer(path, "5 6") << int(ControllerLink::MalformedReply) << -99;
+    QTest::newRow("first of two numbers") << answer(path, "5 6") << 0 << 5;
     QTest::newRow("beyond int") << answer(path, "2147483648") << int(ControllerLink::MalformedReply) << -99;
     QTest::newRow("empty value") << QByteArray("norvane set inertial number_of_sensors")
                                  << int(ControllerLink::MalformedReply) << -99;
@@ -145,6 +153,8 @@ void tst_ControllerLink::reals_data()
     QTest::newRow("fraction") << QByteArray("0.999") << 0 << 0.999;
     QTest::newRow("exponent") << QByteArray("1e3") << 0 << 1000.0;
     QTest::newRow("integer") << QByteArray("42") << 0 << 42.0;
+    QTest::newRow("first of two") << QByteArray("27.0 36.0") << 0 << 27.0;
+    QTest::newRow("first is bad") << QByteArray("27.0x 36.0") << int(ControllerLink::MalformedReply) << -1.0;
     QTest::newRow("not a number") << QByteArray("nan") << int(ControllerLink::MalformedReply) << -1.0;
     QTest::newRow("infinite") << QByteArray("inf") << int(ControllerLink::MalformedReply) << -1.0;
     QTest::newRow("comma decimal") << QByteArray("0,5") << int(ControllerLink::MalformedReply) << -1.0;

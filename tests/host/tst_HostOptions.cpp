@@ -1,5 +1,6 @@
 #include <QtTest>
 
+#include "ModalDialogHelper.h"
 #include "host/HostOptions.h"
 
 class tst_HostOptions : public QObject
@@ -7,10 +8,17 @@ class tst_HostOptions : public QObject
     Q_OBJECT
 
 private slots:
+    void cleanup();
     void parse_data();
     void parse();
     void defaults();
 };
+
+void tst_HostOptions::cleanup()
+{
+    QCOMPARE(ModalDialogHelper::pending(), 0);
+    QCOMPARE(ModalDialogHelper::leaked_windows(), QStringList());
+}
 
 void tst_HostOptions::parse_data()
 {

@@ -1,5 +1,6 @@
 #include <QtTest>
 
+#include "ModalDialogHelper.h"
 #include "host/LogView.h"
 
 class tst_LogView : public QObject
@@ -7,11 +8,18 @@ class tst_LogView : public QObject
     Q_OBJECT
 
 private slots:
+    void cleanup();
     void repeatsAreCounted_data();
     void repeatsAreCounted();
     void keepsTheNewest();
     void timestamps();
 };
+
+void tst_LogView::cleanup()
+{
+    QCOMPARE(ModalDialogHelper::pending(), 0);
+    QCOMPARE(ModalDialogHelper::leaked_windows(), QStringList());
+}
 
 void tst_LogView::repeatsAreCounted_data()
 {

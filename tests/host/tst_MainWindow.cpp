@@ -71,6 +71,7 @@ void tst_MainWindow::cleanup()
 {
     window.reset();
     link.reset();
+    QCOMPARE(ModalDialogHelper::pending(), 0);
     QCOMPARE(ModalDialogHelper::leaked_windows(), QStringList());
 }
 

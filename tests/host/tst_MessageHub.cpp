@@ -2,6 +2,7 @@
 
 #include <QThread>
 
+#include "ModalDialogHelper.h"
 #include "host/MessageHub.h"
 #include "module/MessageReceiver.h"
 
@@ -35,6 +36,7 @@ class tst_MessageHub : public QObject
     Q_OBJECT
 
 private slots:
+    void cleanup();
     void standardGoesToTheUser();
     void namedReceiverGetsItAsSent_data();
     void namedReceiverGetsItAsSent();
@@ -44,6 +46,12 @@ private slots:
     void postFromAnotherThread();
     void receiverGoneBeforeDelivery();
 };
+
+void tst_MessageHub::cleanup()
+{
+    QCOMPARE(ModalDialogHelper::pending(), 0);
+    QCOMPARE(ModalDialogHelper::leaked_windows(), QStringList());
+}
 
 void tst_MessageHub::standardGoesToTheUser()
 {

@@ -3,6 +3,7 @@
 #include <QFile>
 #include <QTemporaryDir>
 
+#include "ModalDialogHelper.h"
 #include "host/ModuleLoader.h"
 #include "module/ModuleInterface.h"
 
@@ -13,6 +14,7 @@ class tst_ModuleLoader : public QObject
     Q_OBJECT
 
 private slots:
+    void cleanup();
     void init();
     void folderWithStrangers();
     void missingFolder();
@@ -22,6 +24,12 @@ private slots:
 private:
     std::unique_ptr<QTemporaryDir> dir;
 };
+
+void tst_ModuleLoader::cleanup()
+{
+    QCOMPARE(ModalDialogHelper::pending(), 0);
+    QCOMPARE(ModalDialogHelper::leaked_windows(), QStringList());
+}
 
 void tst_ModuleLoader::init()
 {

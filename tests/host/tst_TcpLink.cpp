@@ -2,6 +2,7 @@
 
 #include <QElapsedTimer>
 
+#include "ModalDialogHelper.h"
 #include "ScriptedTcpController.h"
 #include "host/TcpLink.h"
 
@@ -52,6 +53,8 @@ void tst_TcpLink::cleanup()
 {
     link.reset();
     server.reset();
+    QCOMPARE(ModalDialogHelper::pending(), 0);
+    QCOMPARE(ModalDialogHelper::leaked_windows(), QStringList());
 }
 
 void tst_TcpLink::parseAddress_data()

@@ -42,6 +42,7 @@ public:
 
 void tst_TourRunner::cleanup()
 {
+    QCOMPARE(ModalDialogHelper::pending(), 0);
     QCOMPARE(ModalDialogHelper::leaked_windows(), QStringList());
 }
 

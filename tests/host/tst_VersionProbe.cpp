@@ -1,5 +1,6 @@
 #include <QtTest>
 
+#include "ModalDialogHelper.h"
 #include "ScriptedLink.h"
 #include "host/VersionProbe.h"
 #include "module/BackendVersions.h"
@@ -9,11 +10,18 @@ class tst_VersionProbe : public QObject
     Q_OBJECT
 
 private slots:
+    void cleanup();
     void parse_data();
     void parse();
     void readsThreeQueries();
     void keepsWhatItCannotRead();
 };
+
+void tst_VersionProbe::cleanup()
+{
+    QCOMPARE(ModalDialogHelper::pending(), 0);
+    QCOMPARE(ModalDialogHelper::leaked_windows(), QStringList());
+}
 
 void tst_VersionProbe::parse_data()
 {
