@@ -297,9 +297,10 @@ void tst_InertialSettingsDlg::returningToStaleSettingsPageRebuilds()
         pages->setCurrentIndex(0);
         afterAdding = fake->count("inertial number_of_transceivers");
     });
-    // Counted once by the opening's table and once by its transceiver check.
+    // Counted once by the opening's table and once by its transceiver check;
+    // then once by the add sensor dialog's own check and once by the rebuild.
     QCOMPARE(fresh, 2);
-    QCOMPARE(afterAdding, 3);
+    QCOMPARE(afterAdding, 4);
 
     // Reopening from another page rebuilds once, not once more for the page.
     fake->clear_log();

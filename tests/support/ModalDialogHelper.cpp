@@ -63,8 +63,10 @@ void ModalDialogHelper::poll()
 
 void ModalDialogHelper::close(QWidget* modal)
 {
+    // done() rather than reject(): some dialogs keep Escape for stopping
+    // work and stay open on reject(), yet a test must still end them.
     if (auto* dialog = qobject_cast<QDialog*>(modal))
-        dialog->reject();
+        dialog->done(QDialog::Rejected);
     else if (modal)
         modal->close();
 }

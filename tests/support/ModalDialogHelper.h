@@ -31,7 +31,8 @@ public:
     // Shortcut: when a modal widget of class `class_name` (QMessageBox,
     // InertialSettingsDlg, ...) is active, run `action` on it.
     static void when_active(const char* class_name, Action action);
-    // Rejects a dialog, or presses a message box's button of that role.
+    // Ends a dialog as rejected (whatever its Escape does), or presses a
+    // message box's button of that role.
     static void close(QWidget* modal);
     static void press(QWidget* message_box, int standard_button);
 
