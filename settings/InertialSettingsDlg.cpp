@@ -40,7 +40,7 @@ constexpr int DeviceIdPadding = 15;
 constexpr int RefreshIntervalMs = 2000;
 constexpr int FirstRefreshDelayMs = 250;
 // Warm-up, wake-up modes and radio channels: the controller answers these slowly.
-constexpr int WakeupTimeoutMs = 10000;
+constexpr int SlowAnswerTimeoutMs = 10000;
 constexpr int SleepTimeoutOfWakeOnTouch = 10;
 
 // Column 3 of a sensor row: what its flags are while the sensor is present.
@@ -1604,7 +1604,7 @@ void InertialSettingsDlg::on_comboBox_mode_activated(const QString& text)
 int InertialSettingsDlg::set_sensor_wakeup_mode(const QString& identity, QString mode)
 {
     const QByteArray line = latin(identity);
-    io->set_timeout(false, WakeupTimeoutMs, true);
+    io->set_timeout(false, SlowAnswerTimeoutMs, true);
     if (io->set_value("inertial sensor_wakeup_mode %s %s", line.constData(), latin(mode).constData()) != 0) {
         report(tr("Error: Unable to set wakeup mode of sensor"));
         return -1;
@@ -1768,7 +1768,7 @@ void InertialSettingsDlg::change_channel_of_dongle(QString transceiver, int chan
     }
 
     const QByteArray line = latin(transceiver);
-    io->set_timeout(false, WakeupTimeoutMs, true);
+    io->set_timeout(false, SlowAnswerTimeoutMs, true);
     if (io->set_value("inertial transceiver_radio_channel %s %d", line.constData(), channel) != 0)
         report(tr("Error: Unable to set radio channel of dongle %1").arg(transceiver));
     int now = 0;
@@ -1791,7 +1791,7 @@ bool InertialSettingsDlg::move_sensor(const QString& sensor, int channel)
         && reply_text(reply) == No)
         return false;
 
-    io->set_timeout(false, WakeupTimeoutMs, true);
+    io->set_timeout(false, SlowAnswerTimeoutMs, true);
     if (io->set_value("inertial sensor_radio_channel %s %d", line.constData(), channel) != 0)
         report(tr("Error: Unable to set radio channel of sensor %1").arg(sensor));
     // The sensor's own word counts, not the controller's acceptance.
@@ -1851,7 +1851,7 @@ void InertialSettingsDlg::on_pushButton_scanAvailableChannels_clicked()
         return;
     set_progressBar_scanAvailableChannels();
     marked_channels.clear();
-    io->set_timeout(false, WakeupTimeoutMs, true);
+    io->set_timeout(false, SlowAnswerTimeoutMs, true);
     char reply[IOManager::ReplyCapacity];
     const int result = io->send_command(reply, "norvane inertial scan_transceiver_radio_channels");
     if (result != 0 || reply_text(reply) != CommandDone) {
@@ -1944,7 +1944,7 @@ int InertialSettingsDlg::start_warmup(bool on)
 void InertialSettingsDlg::on_pushButton_warmup_clicked()
 {
     const bool running = sensor_data_timer->isActive();
-    io->set_timeout(false, WakeupTimeoutMs, true);
+    io->set_timeout(false, SlowAnswerTimeoutMs, true);
     if (start_warmup(!running) != 0)
         return;
     if (running) {
