@@ -46,6 +46,7 @@ private slots:
     void scanFailures_data();
     void scanFailures();
     void missingSuggestionAsksForAScan();
+    void absurdChannelCountIsBounded();
 
 private:
     static QTableWidget* table(Dlg& dialog) { return dialog.findChild<QTableWidget*>("tableWidget"); }
@@ -414,6 +415,30 @@ void tst_InertialSettingsDlgChannels::missingSuggestionAsksForAScan()
     QVERIFY(hintShown);
     QVERIFY(!hintShownAfterScan);
     QCOMPARE(suggested, QBrush(Qt::green));
+}
+
+void tst_InertialSettingsDlgChannels::absurdChannelCountIsBounded()
+{
+    SettingsScript::typical().install(*fake);
+    fake->reply("inertial number_of_transceiver_available_radio_channels " + First, "2000000000");
+    Dlg dialog(fake, nullptr, &versions);
+    int limitsFrom = 0;
+    int limitsTo = 0;
+    SettingsScript::open(dialog, [&] {
+        limitsFrom = grid_combo(dialog, 0)->minimumChannel();
+        limitsTo = grid_combo(dialog, 0)->maximumChannel();
+    });
+    int asked = 0;
+    for (const QByteArray& line : fake->lines())
+        if (line.startsWith("inertial transceiver_available_radio_channel " + First + " t"))
+            ++asked;
+    // Two-digit indices reach 99: beyond that the count cannot be meant.
+    QCOMPARE(asked, 99);
+    QCOMPARE(fake->count("inertial transceiver_available_radio_channel " + First + " t99"), 1);
+    // The five channels that were answered still set the limits.
+    QCOMPARE(limitsFrom, 10);
+    QCOMPARE(limitsTo, 20);
+    QCOMPARE(fake->message_texts().count("Error: Unable to get available channel of dongle 1"), 94);
 }
 
 QTEST_MAIN(tst_InertialSettingsDlgChannels)
