@@ -7,14 +7,19 @@
 #include <QGuiApplication>
 #include <QHeaderView>
 #include <QKeyEvent>
+#include <QMessageBox>
 #include <QPointer>
+#include <QProgressBar>
 #include <QScrollBar>
 #include <QSet>
 #include <QTableWidgetItem>
 #include <QTimer>
 
+#include <algorithm>
 #include <cmath>
 
+#include "ChannelComboBox.h"
+#include "SensorChannelCombo.h"
 #include "SensorIdentity.h"
 #include "addsensor/AddInertialSensorDlg.h"
 #include "module/IOManager.h"
@@ -34,11 +39,14 @@ constexpr int RowHeight = 20;
 constexpr int DeviceIdPadding = 15;
 constexpr int RefreshIntervalMs = 2000;
 constexpr int FirstRefreshDelayMs = 250;
-constexpr int WakeupTimeoutMs = 10000;
+// Warm-up, wake-up modes and radio channels: the controller answers these slowly.
+constexpr int SlowAnswerTimeoutMs = 10000;
 constexpr int SleepTimeoutOfWakeOnTouch = 10;
 
 // Column 3 of a sensor row: what its flags are while the sensor is present.
 constexpr int NameFlagsRole = Qt::UserRole + 3;
+// Column 3 of a sensor row: the body's description as the controller has it.
+constexpr int NameTextRole = Qt::UserRole + 4;
 
 const Qt::Alignment RightCentred = Qt::AlignRight | Qt::AlignVCenter;  // 130
 
@@ -50,6 +58,7 @@ const QString WakeOnTap = QStringLiteral("'wm_tap'");
 const QString WakeByRadio = QStringLiteral("'wm_radio'");
 const QString TapAndRadio = WakeOnTap + QLatin1Char(' ') + WakeByRadio;
 const char* const ModeProperty = "wakeupMode";
+const QString CommandDone = QStringLiteral("norvane ok");
 
 int sane_count(int count)
 {
@@ -132,6 +141,12 @@ InertialSettingsDlg::InertialSettingsDlg(IOManager* io, QWidget* parent, Backend
       message_receiver(nullptr),
       receiver_registered(false),
       dummyDongleNeeded(false),
+      scanNeeded(false),
+      scan_allowed(false),
+      rebuilding(false),
+      name_editing(false),
+      suggestion_missing(false),
+      retry_box(nullptr),
       number_of_wakeup_modes(0)
 {
     ui->setupUi(this);
@@ -231,6 +246,10 @@ int InertialSettingsDlg::update_and_exec()
     ui->progressBar->setFormat(QString());
     ui->label_error3->hide();
     transceiver_present = false;
+    scan_allowed = false;
+    name_editing = false;
+    // A transceiver may have been exchanged since the last opening.
+    known_available_channels.clear();
 
     config_locked = is_config_locked();
 
@@ -274,12 +293,12 @@ int InertialSettingsDlg::update_and_exec()
 
     // Sensors on cable need no transceiver: the page stays usable for them.
     transceiver_present = isTransceiverPresent();
+    scan_allowed = transceiver_present;
     ui->pushButton_addSensor->setEnabled(true);
     ui->comboBox_mode->setEnabled(true);
     ui->doubleSpinBox_frequency->setEnabled(true);
     ui->tableWidget->setEnabled(true);
-    // The channel scan has no handler yet; the button must not promise one.
-    ui->pushButton_scanAvailableChannels->setEnabled(false);
+    ui->pushButton_scanAvailableChannels->setEnabled(scan_allowed);
     if (transceiver_present) {
         set_frequency_limit();
         first_refresh_timer->start();
@@ -350,8 +369,19 @@ void InertialSettingsDlg::set_warmup_lock(bool locked)
     ui->pushButton_addSensor->setEnabled(!locked);
     ui->doubleSpinBox_frequency->setEnabled(!locked);
     ui->comboBox_mode->setEnabled(!locked);
-    // The channel scan has no handler yet: off either way.
-    ui->pushButton_scanAvailableChannels->setEnabled(false);
+    // Without a transceiver there is nothing to scan, warm-up or not.
+    ui->pushButton_scanAvailableChannels->setEnabled(!locked && scan_allowed);
+}
+
+void InertialSettingsDlg::end_warmup_display()
+{
+    sensor_data_timer->stop();
+    set_warmup_lock(false);
+    ui->pushButton_warmup->setText(tr("Warmup start"));
+    // Warm-up kept sensors awake; those that fall asleep again are watched
+    // by the presence poll as after an opening.
+    if (transceiver_present)
+        not_present_timer->start();
 }
 
 void InertialSettingsDlg::show_error(const QString& text)
@@ -446,6 +476,8 @@ void InertialSettingsDlg::update_buttons()
     if (io->is_blocked())
         return;
     if (!is_inertial_available()) {
+        inertial_available = false;
+        scan_allowed = false;
         show_error(tr("Hybrid tracking is not available!"));
         disable_sensor_controls();
         ui->tableWidget->setEnabled(true);
@@ -505,9 +537,7 @@ void InertialSettingsDlg::set_temperature_and_battery_of_all_sensor()
         return;
     }
     // The controller ended the warm-up on its own: give the page back.
-    sensor_data_timer->stop();
-    set_warmup_lock(false);
-    ui->pushButton_warmup->setText(tr("Warmup start"));
+    end_warmup_display();
 }
 
 void InertialSettingsDlg::refresh_all_sensor_rows()
@@ -597,19 +627,47 @@ void InertialSettingsDlg::on_pushButton_addSensor_clicked()
 void InertialSettingsDlg::on_tableWidget_cellClicked(int row, int column)
 {
     const QTableWidgetItem* item = ui->tableWidget->item(row, column);
+    if (column == ColDelete) {
+        // Only sensor rows carry the delete icon.
+        if (item && !item->icon().isNull())
+            delete_sensor(row);
+        return;
+    }
+    if (column == ColName)
+        name_editing = true;
     if (item && (item->flags() & Qt::ItemIsEditable))
         cell_editing = true;
 }
 
-void InertialSettingsDlg::on_tableWidget_itemChanged(QTableWidgetItem* /*item*/)
+void InertialSettingsDlg::on_tableWidget_itemChanged(QTableWidgetItem* item)
 {
     cell_editing = false;
+    if (!item || item->column() != ColName || !name_editing)
+        return;
+    // The refresh touches this cell's flags too; only a new text is an edit.
+    const QString description = item->data(NameTextRole).toString();
+    const QString edited = item->text();
+    if (edited == description)
+        return;
+    name_editing = false;
+    const QString body = item->data(BodyIdRole).toString();
+    if (body.isEmpty() || body == None)
+        return;
+    const QSignalBlocker quiet(ui->tableWidget);
+    if (io->set_value("body desc %s \"%s\"", latin(body).constData(), latin(edited).constData()) != 0) {
+        report(tr("Error: Unable to set body description %1").arg(body));
+        // Show the name the controller kept, not the refused one.
+        item->setText(description);
+        return;
+    }
+    item->setData(NameTextRole, edited);
 }
 
 void InertialSettingsDlg::editor_closed()
 {
     // An edit the user abandoned changes no item, yet the refresh must resume.
     cell_editing = false;
+    name_editing = false;
 }
 
 void InertialSettingsDlg::wait_cursor_active(bool active)
@@ -623,6 +681,15 @@ void InertialSettingsDlg::wait_cursor_active(bool active)
 
 bool InertialSettingsDlg::eventFilter(QObject* watched, QEvent* event)
 {
+    if (retry_box && watched == retry_box) {
+        const bool escape = event->type() == QEvent::KeyPress
+                            && static_cast<QKeyEvent*>(event)->key() == Qt::Key_Escape;
+        if (escape || event->type() == QEvent::Close) {
+            // The box carries Retry alone; leaving it any other way gives up.
+            retry_box->done(QMessageBox::Cancel);
+            return true;
+        }
+    }
     if (event->type() == QEvent::Wheel) {
         auto* combo = qobject_cast<QComboBox*>(watched);
         if (combo && !combo->hasFocus()) {
@@ -671,6 +738,8 @@ void InertialSettingsDlg::update_table()
     table->setRowCount(0);
     sensor_list.clear();
     cell_editing = false;
+    rebuilding = true;
+    suggestion_missing = false;
 
     bool complete = add_dongles();
     if (complete) {
@@ -679,6 +748,16 @@ void InertialSettingsDlg::update_table()
         complete = add_sensors();
         delete_dummyDongleEntry_ifNotNeeded();
     }
+
+    // One transceiver without a suggestion is enough: the user should scan.
+    if (suggestion_missing) {
+        ui->label_error3->setText(red(tr("Please scan available channels")));
+        ui->label_error3->show();
+    } else {
+        ui->label_error3->hide();
+        ui->label_error3->clear();
+    }
+    rebuilding = false;
 
     table->resizeColumnsToContents();
     table->setColumnWidth(ColDeviceId, table->columnWidth(ColDeviceId) + DeviceIdPadding);
@@ -773,15 +852,78 @@ bool InertialSettingsDlg::fill_dongle_row(int row, const QString& identity)
 
 bool InertialSettingsDlg::fill_dongle_channel(int row, const QString& identity)
 {
+    QTableWidget* table = ui->tableWidget;
+    const QByteArray line = latin(identity);
+    const int number = row + 1;
+    auto* combo = qobject_cast<ChannelComboBox*>(table->cellWidget(row, ColChannel));
+    if (!combo) {
+        combo = new ChannelComboBox(this, identity);
+        // Queued: moving the transceiver rebuilds the table, and with it
+        // this combo, which must not be destroyed while it reports.
+        connect(combo, &ChannelComboBox::transceiverChannelChosen, this,
+                &InertialSettingsDlg::transceiver_channel_chosen, Qt::QueuedConnection);
+        table->setCellWidget(row, ColChannel, combo);
+    }
+    const QList<int> available = available_channels_of(
+        number, identity, tr("Error: Unable to get number of available channels of dongle %1").arg(number));
+    if (!available.isEmpty())
+        combo->setChannelLimits(*std::min_element(available.cbegin(), available.cend()),
+                                *std::max_element(available.cbegin(), available.cend()));
+
+    if (marked_channels.isEmpty()) {
+        scanNeeded = true;
+        update_scan_status();
+    }
+
     int channel = 0;
-    if (io->get_int(&channel, "inertial transceiver_radio_channel %s", latin(identity).constData()) != 0) {
-        report(tr("Error: Unable to get radio channel of dongle %1").arg(row + 1));
+    if (io->get_int(&channel, "inertial transceiver_radio_channel %s", line.constData()) != 0) {
+        report(tr("Error: Unable to get radio channel of dongle %1").arg(number));
         return false;
     }
-    QTableWidgetItem* item = text_item(QString::number(channel), Qt::ItemIsEnabled);
-    item->setTextAlignment(Qt::AlignCenter);
-    ui->tableWidget->setItem(row, ColChannel, item);
+    combo->setChannel(channel);
+
+    int suggested = 0;
+    if (io->get_int(&suggested, "inertial transceiver_suggested_radio_channel %s", line.constData()) != 0) {
+        report(tr("Error: Unable to get suggested radio channel of dongle %1").arg(number));
+        suggested = 0;
+    }
+    combo->setMarkSuggestedChannel(suggested);
+    // No suggestion means the controller has measured nothing yet.
+    if (suggested == 0)
+        suggestion_missing = true;
+    else if (!marked_channels.isEmpty())
+        combo->setMarkedChannels(marked_channels.value(identity));
+    combo->setUserAction(true);
     return true;
+}
+
+QList<int> InertialSettingsDlg::available_channels_of(int number, const QString& identity, const QString& failure)
+{
+    // What a transceiver can use does not change while the dialog is open;
+    // asking again at every rebuild would cost a round trip per channel.
+    const auto known = known_available_channels.constFind(identity);
+    if (known != known_available_channels.cend())
+        return *known;
+
+    const QByteArray line = latin(identity);
+    int reported = 0;
+    if (io->get_int(&reported, "inertial number_of_transceiver_available_radio_channels %s", line.constData()) != 0) {
+        report(failure);
+        return {};
+    }
+    QList<int> channels;
+    const int count = sane_count(reported);
+    for (int k = 1; k <= count; ++k) {
+        int channel = 0;
+        if (io->get_int(&channel, "inertial transceiver_available_radio_channel %s t%.2d", line.constData(), k) != 0) {
+            report(tr("Error: Unable to get available channel of dongle %1").arg(number));
+            continue;
+        }
+        if (channel >= 1 && channel <= ChannelComboBox::LargestChannel && !channels.contains(channel))
+            channels << channel;
+    }
+    known_available_channels.insert(identity, channels);
+    return channels;
 }
 
 void InertialSettingsDlg::add_dummyDongleEntry()
@@ -806,6 +948,8 @@ bool InertialSettingsDlg::add_sensors()
     sensor_list.clear();
     int count = 0;
     read_count(&count, "inertial number_of_sensors", tr("Could not get number of sensors"));
+    // Availability as the opening found it; the button refresh notices a loss.
+    ui->pushButton_warmup->setEnabled(count > 0 && inertial_available);
 
     for (int i = 1; i <= count; ++i) {
         SensorIdentity id;
@@ -893,13 +1037,15 @@ void InertialSettingsDlg::fill_sensor_row(int row, const SensorIdentity& id, con
                                            reply, QString(),
                                            tr("Could not get body description of body %1").arg(index)),
                               QLatin1Char('"')));
-        name_flags = Qt::ItemIsSelectable | Qt::ItemIsEnabled;
+        // The body's name is edited right here.
+        name_flags = Qt::ItemIsSelectable | Qt::ItemIsEnabled | Qt::ItemIsEditable;
     }
     name->setFlags(name_flags);
     name->setData(NameFlagsRole, int(name_flags));
+    name->setData(NameTextRole, name->text());
     table->setItem(row, ColName, name);
 
-    QTableWidgetItem* remove = text_item(QString(), Qt::NoItemFlags);
+    QTableWidgetItem* remove = text_item(QString(), Qt::ItemIsEnabled);
     remove->setIcon(icon_delete);
     table->setItem(row, ColDelete, remove);
 
@@ -985,22 +1131,23 @@ void InertialSettingsDlg::update_sensor_channel(int row, QString identity, bool 
 {
     if (!present)
         return;
-    const QByteArray line = latin(identity);
     QString connection = QStringLiteral("2");
     bool answered = false;
     if (VersionGate::available(backend_versions, 1, 21)) {
         char reply[IOManager::ReplyCapacity];
-        if (io->get_string(reply, "inertial sensor_radio_channel %s", line.constData()) != 0) {
+        if (io->get_string(reply, "inertial sensor_radio_channel %s", latin(identity).constData()) != 0) {
             report(tr("Error: Unable to get sensor channel"));
         } else {
             connection = reply_text(reply).trimmed();
             answered = true;
         }
     }
-    QTableWidgetItem* item = ensure_item(row, ColChannel);
-    item->setFlags(Qt::ItemIsEnabled);
-    item->setTextAlignment(Qt::AlignCenter);
+    QTableWidget* table = ui->tableWidget;
     if (connection == QLatin1String("usb")) {
+        remove_cell_widget(row, ColChannel);
+        QTableWidgetItem* item = ensure_item(row, ColChannel);
+        item->setFlags(Qt::ItemIsEnabled);
+        item->setTextAlignment(Qt::AlignCenter);
         item->setText(tr("USB"));
         return;
     }
@@ -1008,14 +1155,25 @@ void InertialSettingsDlg::update_sensor_channel(int row, QString identity, bool 
     // asked for the number itself.
     bool numeric = false;
     int channel = connection.toInt(&numeric);
-    if (!answered || !numeric) {
-        channel = -1;
-        if (io->get_int(&channel, "inertial sensor_radio_channel %s", line.constData()) != 0) {
-            report(tr("Error: Unable to get radio channel of sensor %1").arg(row));
-            channel = -1;
-        }
+    if (!answered || !numeric)
+        channel = getSensorChannel(identity);
+
+    auto* combo = qobject_cast<SensorChannelCombo*>(table->cellWidget(row, ColChannel));
+    if (!combo) {
+        combo = new SensorChannelCombo(io, this, identity);
+        combo->setFocusPolicy(Qt::StrongFocus);
+        combo->installEventFilter(this);
+        QStringList channels;
+        get_channels(channels, identity);
+        for (const QString& offered : qAsConst(channels))
+            combo->addItem(offered, offered.toInt());
+        combo->showChannel(channel);
+        combo->setUserAction(true);
+        ensure_item(row, ColChannel)->setText(QString());
+        table->setCellWidget(row, ColChannel, combo);
+        return;
     }
-    item->setText(channel >= 0 ? QString::number(channel) : QString());
+    combo->showChannel(channel);
 }
 
 void InertialSettingsDlg::update_battery(int row, QString identity, bool present)
@@ -1446,7 +1604,7 @@ void InertialSettingsDlg::on_comboBox_mode_activated(const QString& text)
 int InertialSettingsDlg::set_sensor_wakeup_mode(const QString& identity, QString mode)
 {
     const QByteArray line = latin(identity);
-    io->set_timeout(false, WakeupTimeoutMs, true);
+    io->set_timeout(false, SlowAnswerTimeoutMs, true);
     if (io->set_value("inertial sensor_wakeup_mode %s %s", line.constData(), latin(mode).constData()) != 0) {
         report(tr("Error: Unable to set wakeup mode of sensor"));
         return -1;
@@ -1549,4 +1707,309 @@ void InertialSettingsDlg::update_frequency(int row, QString identity, bool prese
     item->setTextAlignment(Qt::AlignCenter);
     item->setFlags(item->flags() & ~Qt::ItemIsEditable);
     ui->tableWidget->setItem(row, ColFrequency, item);
+}
+
+// --- radio channels ----------------------------------------------------------
+
+int InertialSettingsDlg::getSensorChannel(const QString& sensor)
+{
+    int channel = -1;
+    if (io->get_int(&channel, "inertial sensor_radio_channel %s", latin(sensor).constData()) != 0) {
+        report(tr("Error: Unable to get radio channel of sensor"));
+        return -1;
+    }
+    return channel;
+}
+
+void InertialSettingsDlg::getChannelsOfDongles(QStringList& out) const
+{
+    for (int row = 0; row < ui->tableWidget->rowCount(); ++row) {
+        const auto* combo = qobject_cast<const ChannelComboBox*>(ui->tableWidget->cellWidget(row, ColChannel));
+        if (combo && combo->channel() > 0)
+            out << QString::number(combo->channel());
+    }
+}
+
+void InertialSettingsDlg::get_channels(QStringList& out, const QString& sensor) const
+{
+    // A sensor can only be handed to a channel some transceiver listens on.
+    Q_UNUSED(sensor)
+    QStringList channels;
+    getChannelsOfDongles(channels);
+    channels.removeDuplicates();
+    out << channels;
+}
+
+void InertialSettingsDlg::transceiver_channel_chosen(const QString& transceiver, int channel)
+{
+    if (io->is_blocked())
+        return;
+    change_channel_of_dongle(transceiver, channel);
+}
+
+void InertialSettingsDlg::change_channel_of_dongle(QString transceiver, int channel)
+{
+    wait_cursor_active(true);
+    // Sensors first: once the transceiver has moved, those still on the old
+    // channel are out of its reach.
+    QStringList unreachable;
+    for (const QString& sensor : get_sensorList_of_dongle(transceiver))
+        if (!move_sensor(sensor, channel))
+            unreachable << sensor;
+
+    while (!unreachable.isEmpty()) {
+        if (!ask_retry(unreachable_text(unreachable)))
+            break;
+        QStringList still;
+        for (const QString& sensor : qAsConst(unreachable))
+            if (!move_sensor(sensor, channel))
+                still << sensor;
+        unreachable = still;
+    }
+
+    const QByteArray line = latin(transceiver);
+    io->set_timeout(false, SlowAnswerTimeoutMs, true);
+    if (io->set_value("inertial transceiver_radio_channel %s %d", line.constData(), channel) != 0)
+        report(tr("Error: Unable to set radio channel of dongle %1").arg(transceiver));
+    int now = 0;
+    if (io->get_int(&now, "inertial transceiver_radio_channel %s", line.constData()) != 0)
+        report(tr("Error: Unable to get radio channel of dongle %1").arg(transceiver));
+
+    update_scan_status();
+    update_table();
+    wait_cursor_active(false);
+}
+
+bool InertialSettingsDlg::move_sensor(const QString& sensor, int channel)
+{
+    const QByteArray line = latin(sensor);
+    char reply[IOManager::ReplyCapacity];
+    // A sensor that wakes on touch and sleeps now cannot hear the order.
+    if (io->get_string(reply, "inertial sensor_wakeup_mode %s", line.constData()) == 0
+        && reply_text(reply).trimmed() == WakeOnTap
+        && io->get_string(reply, "inertial sensor_present %s", line.constData()) == 0
+        && reply_text(reply) == No)
+        return false;
+
+    io->set_timeout(false, SlowAnswerTimeoutMs, true);
+    if (io->set_value("inertial sensor_radio_channel %s %d", line.constData(), channel) != 0)
+        report(tr("Error: Unable to set radio channel of sensor %1").arg(sensor));
+    // The sensor's own word counts, not the controller's acceptance.
+    int now = -1;
+    if (io->get_int(&now, "inertial sensor_radio_channel %s", line.constData()) != 0) {
+        report(tr("Error: Unable to get radio channel of sensor %1").arg(sensor));
+        return false;
+    }
+    return now == channel;
+}
+
+QString InertialSettingsDlg::unreachable_text(const QStringList& sensors)
+{
+    QString text = tr("There are several sensors not available:\n");
+    for (const QString& sensor : sensors) {
+        QStringList parts{tr("Sensor: ") + sensor};
+        char reply[IOManager::ReplyCapacity];
+        if (io->get_string(reply, "inertial body_of_sensor %s", latin(sensor).constData()) == 0) {
+            const QString body = reply_text(reply);
+            if (body != None && checkBodyTypeIdExists(body)
+                && io->get_string(reply, "body desc %s", latin(body).constData()) == 0)
+                parts << tr("of body: ") + without(reply_text(reply), QLatin1Char('"'));
+        }
+        text += QLatin1Char('\n') + parts.join(QStringLiteral(", "));
+    }
+    return text + QStringLiteral("\n\n")
+           + tr("Press Retry if you want to try again to change the channel of the sensors.");
+}
+
+bool InertialSettingsDlg::ask_retry(const QString& text)
+{
+    QMessageBox box(QMessageBox::Warning, tr("Changing Sensor Channel failed"), text, QMessageBox::Retry, this);
+    // Cancel is named the default although the box does not carry it; the
+    // box's only way out besides Retry is Escape or its close button, which
+    // eventFilter() turns into Cancel.
+    box.setDefaultButton(QMessageBox::Cancel);
+    box.installEventFilter(this);
+    retry_box = &box;
+    wait_cursor_active(false);
+    const int answer = box.exec();
+    retry_box = nullptr;
+    wait_cursor_active(true);
+    return answer == QMessageBox::Retry;
+}
+
+void InertialSettingsDlg::set_progressBar_scanAvailableChannels()
+{
+    ui->progressBar->setFormat(tr("Scanning available channels %p%"));
+    ui->progressBar->setValue(0);
+    ui->progressBar->setEnabled(true);
+    wait_cursor_active(true);
+}
+
+void InertialSettingsDlg::on_pushButton_scanAvailableChannels_clicked()
+{
+    if (transceiver_identities.isEmpty())
+        return;
+    set_progressBar_scanAvailableChannels();
+    marked_channels.clear();
+    io->set_timeout(false, SlowAnswerTimeoutMs, true);
+    char reply[IOManager::ReplyCapacity];
+    const int result = io->send_command(reply, "norvane inertial scan_transceiver_radio_channels");
+    if (result != 0 || reply_text(reply) != CommandDone) {
+        if (result != 0)
+            report(tr("Error: Unable to execute scan transceiver channel"));
+        // Nothing was measured: the bar must not claim a scan under way.
+        ui->progressBar->setValue(0);
+        ui->progressBar->setEnabled(false);
+        ui->progressBar->setFormat(QString());
+        wait_cursor_active(false);
+        return;
+    }
+    scanNeeded = false;
+    update_scan_status();
+    update_table();
+    wait_cursor_active(false);
+}
+
+void InertialSettingsDlg::update_scan_status()
+{
+    QList<QList<int>> channels;
+    int total = 0;
+    bool counted = true;
+    for (int i = 0; i < transceiver_identities.size(); ++i) {
+        const QString& transceiver = transceiver_identities.at(i);
+        if (!known_available_channels.contains(transceiver)) {
+            const QList<int> read = available_channels_of(
+                i + 1, transceiver, tr("Error: Unable to get number of available dongle channels"));
+            counted = counted && known_available_channels.contains(transceiver);
+            channels << read;
+        } else {
+            channels << known_available_channels.value(transceiver);
+        }
+        total += channels.last().size();
+    }
+    ui->progressBar->setMaximum(qMax(1, total));
+
+    int done = 0;
+    for (int i = 0; i < transceiver_identities.size(); ++i) {
+        measure_activity(transceiver_identities.at(i), channels.at(i));
+        done += channels.at(i).size();
+        if (!scanNeeded)
+            ui->progressBar->setValue(done);
+    }
+    // A transceiver whose channels could not be counted shows stale marks.
+    if (!counted && !rebuilding)
+        update_table();
+}
+
+void InertialSettingsDlg::scan_transciever_radio_channel_activity(QString transceiver)
+{
+    const int index = transceiver_identities.indexOf(transceiver);
+    const QList<int> channels = available_channels_of(
+        index + 1, transceiver, tr("Error: Unable to get number of available dongle channels"));
+    if (known_available_channels.contains(transceiver))
+        measure_activity(transceiver, channels);
+}
+
+void InertialSettingsDlg::measure_activity(const QString& transceiver, const QList<int>& channels)
+{
+    const QByteArray line = latin(transceiver);
+    QList<int> busy;
+    bool reported = false;
+    for (int channel : channels) {
+        double activity = -1.0;
+        if (io->get_double(&activity, "inertial transceiver_radio_channel_activity %s %d", line.constData(), channel) != 0) {
+            activity = -1.0;
+            // Once per transceiver: an unplugged one fails for every channel.
+            if (!reported)
+                report(tr("Could not get activity of dongle: ") + transceiver);
+            reported = true;
+        }
+        // Fully occupied, or not measured at all: do not suggest it as free.
+        if (activity == 1.0 || activity == -1.0)
+            busy << channel;
+    }
+    marked_channels.insert(transceiver, busy);
+}
+
+// --- warm-up and deletion ----------------------------------------------------
+
+int InertialSettingsDlg::start_warmup(bool on)
+{
+    const int result = io->set_value(on ? "inertial warmup yes" : "inertial warmup no");
+    if (result != 0)
+        report(on ? tr("Could not start warmup of sensors") : tr("Could not stop warmup of sensors"));
+    return result;
+}
+
+void InertialSettingsDlg::on_pushButton_warmup_clicked()
+{
+    const bool running = sensor_data_timer->isActive();
+    io->set_timeout(false, SlowAnswerTimeoutMs, true);
+    if (start_warmup(!running) != 0)
+        return;
+    if (running) {
+        end_warmup_display();
+        return;
+    }
+    not_present_timer->stop();
+    set_temperature_and_battery_of_all_sensor();
+    sensor_data_timer->start();
+    ui->pushButton_warmup->setText(tr("Warmup stop"));
+    set_warmup_lock(true);
+}
+
+void InertialSettingsDlg::delete_sensor(int row)
+{
+    const QTableWidgetItem* device = ui->tableWidget->item(row, ColDeviceId);
+    const QStringList fields = device ? device->data(SensorIdentityRole).toStringList() : QStringList();
+    if (fields.size() < 3)
+        return;
+    const QTableWidgetItem* name = ui->tableWidget->item(row, ColName);
+    const QString body = name ? name->data(BodyIdRole).toString() : QString();
+    const QString sensor = fields.mid(0, 3).join(QLatin1Char(' '));
+
+    if (QMessageBox::warning(this, tr("Warning"), tr("Delete sensor %1?").arg(sensor),
+                             QMessageBox::Yes | QMessageBox::No, QMessageBox::No)
+        != QMessageBox::Yes)
+        return;
+
+    // Detach the body first, so that no body is left pointing at a sensor
+    // the controller no longer knows.
+    if (!body.isEmpty() && body != None) {
+        int bodies = 0;
+        const bool counted = io->get_int(&bodies, "standard number_of_bodies") == 0;
+        if (!counted)
+            report(tr("Error: Unable to get number of bodies"));
+        if (io->set_value("body inertial_sensor %s none", latin(body).constData()) != 0)
+            report(tr("Could not set body of sensor: ") + body);
+        // The count is written back whether the body lies within it or not;
+        // an unread count is never written, it would drop every body.
+        if (counted && io->set_value("standard number_of_bodies %d", qMax(bodies, 0)) != 0)
+            report(tr("Could not set standard number of bodies ") + QString::number(bodies));
+    }
+
+    char reply[IOManager::ReplyCapacity];
+    if (io->send_command(reply, "norvane inertial delete_sensor %s %s %s", latin(fields.at(0)).constData(),
+                         latin(fields.at(1)).constData(), latin(fields.at(2)).constData())
+            == 0
+        && reply_text(reply) == CommandDone) {
+        update_table();
+        set_comboBox_available_modes();
+        return;
+    }
+    report(tr("Could not delete sensor ") + sensor);
+}
+
+void InertialSettingsDlg::deleteAssignmentIfSensorIsAlreadyAssigned(const char* identity)
+{
+    char reply[IOManager::ReplyCapacity];
+    if (io->get_string(reply, "inertial body_of_sensor %s", identity) != 0) {
+        report(tr("Error: Unable to get assignment of sensor"));
+        return;
+    }
+    const QString body = reply_text(reply);
+    if (body == None)
+        return;
+    if (io->set_value("body inertial_sensor %s none", latin(body).constData()) != 0)
+        report(tr("Error: Unable to delete assignment of sensor"));
 }

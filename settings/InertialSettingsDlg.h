@@ -9,9 +9,11 @@
 #include <QStringList>
 
 class AddInertialSensorDlg;
+class ChannelComboBox;
 class IneritalMessageReceiver;
 class IOManager;
 class QComboBox;
+class QMessageBox;
 class QTableWidgetItem;
 class QTimer;
 class SensorIdentity;
@@ -100,6 +102,27 @@ public:
     // that the mode needs was not set.
     int set_sensor_wakeup_mode(const QString& identity, QString mode);
 
+    // Radio channels. Moves every sensor of the transceiver, then the
+    // transceiver itself; sensors left behind are offered for retry.
+    void change_channel_of_dongle(QString transceiver, int channel);
+    // The current channel of every transceiver row, as decimal text.
+    void getChannelsOfDongles(QStringList& out) const;
+    // What a sensor's channel combo offers: the transceivers' channels.
+    void get_channels(QStringList& out, const QString& sensor) const;
+    int getSensorChannel(const QString& sensor);
+    // Reads the radio activity of every transceiver's channels into the
+    // busy-channel map.
+    void update_scan_status();
+    void scan_transciever_radio_channel_activity(QString transceiver);
+    void set_progressBar_scanAvailableChannels();
+    // Busy channels of a transceiver as the last scan found them.
+    QList<int> busy_channels(const QString& transceiver) const { return marked_channels.value(transceiver); }
+
+    // Warm-up and deletion.
+    int start_warmup(bool on);
+    void delete_sensor(int row);
+    void deleteAssignmentIfSensorIsAlreadyAssigned(const char* identity);
+
 public slots:
     int update_and_exec();
     void onReceiveReopen();
@@ -122,6 +145,9 @@ private slots:
     void on_doubleSpinBox_frequency_valueChanged(double value);
     void on_tableWidget_cellClicked(int row, int column);
     void on_tableWidget_itemChanged(QTableWidgetItem* item);
+    void on_pushButton_scanAvailableChannels_clicked();
+    void on_pushButton_warmup_clicked();
+    void transceiver_channel_chosen(const QString& transceiver, int channel);
     void wakeup_mode_active(const QString& text);
     void editor_closed();
 
@@ -133,6 +159,7 @@ private:
     void disable_sensor_controls();
     void disable_body_page();
     void set_warmup_lock(bool locked);
+    void end_warmup_display();
     void show_error(const QString& text);
     void report(const QString& text);
     // The reply of a query that returned `result`, or `fallback` after
@@ -154,6 +181,15 @@ private:
     // Fills a transceiver's row; false when the transceiver is absent.
     bool fill_dongle_row(int row, const QString& identity);
     bool fill_dongle_channel(int row, const QString& identity);
+    // The channels a transceiver (1-based `number`) can use, read once per
+    // opening; `failure` is reported when their count cannot be read.
+    QList<int> available_channels_of(int number, const QString& identity, const QString& failure);
+    // Reads one transceiver's channel activity into the busy-channel map.
+    void measure_activity(const QString& transceiver, const QList<int>& channels);
+    // Moves one sensor; false when it is asleep or did not follow.
+    bool move_sensor(const QString& sensor, int channel);
+    QString unreachable_text(const QStringList& sensors);
+    bool ask_retry(const QString& text);
     int row_for_sensor(const QString& transceiver, const QString& identity);
     void fill_sensor_row(int row, const SensorIdentity& id, const QString& body, int index);
     QString sensor_identity_of_row(int row) const;
@@ -219,6 +255,14 @@ private:
     QStringList transceiver_identities;
     QList<sensor> sensor_list;
     bool dummyDongleNeeded;
+    QMap<QString, QList<int>> marked_channels;         // transceiver -> busy channels
+    QMap<QString, QList<int>> known_available_channels; // transceiver -> usable channels
+    bool scanNeeded;
+    bool scan_allowed;
+    bool rebuilding;
+    bool name_editing;
+    bool suggestion_missing;
+    QMessageBox* retry_box;
 
     int number_of_wakeup_modes;
     QMap<QString, QString> all_wakeup_modes;          // mode id -> description

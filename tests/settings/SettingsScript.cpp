@@ -20,7 +20,12 @@ SettingsScript SettingsScript::typical()
     SettingsScript script;
     const QByteArray first = "NRV Dongle 'T1001'";
     const QByteArray second = "NRV Dongle 'T1002'";
-    script.transceivers = {{first, "yes", "12"}, {second, "yes", "20"}};
+    Transceiver t1;
+    t1.identity = first;
+    Transceiver t2;
+    t2.identity = second;
+    t2.channel = "20";
+    script.transceivers = {t1, t2};
 
     Sensor s1;
     s1.identity = "NRV IMU9 'S0001'";
@@ -82,6 +87,16 @@ void SettingsScript::install(FakeController& fake) const
                    "\"Dongle (USB)\"");
         fake.reply("inertial transceiver_present " + t.identity, t.present);
         fake.reply("inertial transceiver_radio_channel " + t.identity, t.channel);
+        fake.reply("inertial transceiver_suggested_radio_channel " + t.identity, t.suggested);
+        fake.reply("inertial number_of_transceiver_available_radio_channels " + t.identity,
+                   QByteArray::number(t.available.size()));
+        for (int k = 0; k < t.available.size(); ++k) {
+            const int channel = t.available.at(k);
+            fake.reply("inertial transceiver_available_radio_channel " + t.identity + " t" + two_digits(k + 1),
+                       QByteArray::number(channel));
+            fake.reply("inertial transceiver_radio_channel_activity " + t.identity + ' ' + QByteArray::number(channel),
+                       t.activities.value(channel, t.activity));
+        }
     }
 
     fake.reply("inertial number_of_sensors", QByteArray::number(sensors.size()));

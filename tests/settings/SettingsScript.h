@@ -3,6 +3,7 @@
 
 #include <QByteArray>
 #include <QList>
+#include <QMap>
 #include <QPair>
 
 #include <functional>
@@ -23,6 +24,10 @@ public:
         QByteArray identity;        // "NRV Dongle 'T1001'"
         QByteArray present = "yes";
         QByteArray channel = "12";
+        QList<int> available = {10, 12, 14, 16, 20};  // channels it can use
+        QByteArray suggested = "14";                   // "0" before any scan
+        QByteArray activity = "0.1";                   // of every channel unless listed below
+        QMap<int, QByteArray> activities;
     };
 
     struct Sensor

@@ -89,7 +89,7 @@ void tst_InertialSettingsDlg::opening_data()
     QTest::addColumn<bool>("transceivers");
     QTest::addColumn<QByteArray>("warmup");
     QTest::addColumn<QString>("error");
-    QTest::addColumn<QString>("enabled");   // of add, mode, frequency, table
+    QTest::addColumn<QString>("enabled");   // of add, mode, frequency, table, scan, warmup
     QTest::addColumn<QString>("warmupText");
     QTest::addColumn<QStringList>("timers");
     QTest::addColumn<int>("rows");
@@ -117,17 +117,17 @@ void tst_InertialSettingsDlg::opening_data()
         << QByteArrayList{"inertial warmup", "inertial number_of_wakeup_modes"};
     QTest::newRow("no transceiver: only the channel scan is off, no timer")
         << 21 << QByteArray("yes") << QByteArray("yes") << false << QByteArray("no")
-        << QString() << "add mode frequency table" << "&Warmup start" << QStringList() << 6
+        << QString() << "add mode frequency table warmup" << "&Warmup start" << QStringList() << 6
         << QByteArrayList{"inertial number_of_wakeup_modes", "inertial frequency"}
         << QByteArrayList{"inertial warmup"};
     QTest::newRow("warm-up already running: sensor data timer instead of the poll")
         << 21 << QByteArray("yes") << QByteArray("yes") << true << QByteArray("yes")
-        << QString() << "" << "Warmup stop"
+        << QString() << "warmup" << "Warmup stop"
         << QStringList{"buttonTimer", "firstRefreshTimer", "sensorDataTimer"} << 8
         << QByteArrayList{"inertial warmup"} << QByteArrayList{};
     QTest::newRow("ready: presence poll and button refresh")
         << 21 << QByteArray("yes") << QByteArray("yes") << true << QByteArray("no")
-        << QString() << "add mode frequency table" << "Warmup start"
+        << QString() << "add mode frequency table scan warmup" << "Warmup start"
         << QStringList{"buttonTimer", "firstRefreshTimer", "notPresentTimer"} << 8
         << QByteArrayList{"inertial warmup", "inertial limit frequency"} << QByteArrayList{};
 }
@@ -168,9 +168,8 @@ void tst_InertialSettingsDlg::opening()
     QCOMPARE(s.mode, enabled.contains("mode"));
     QCOMPARE(s.frequency, enabled.contains("frequency"));
     QCOMPARE(s.table, enabled.contains("table"));
-    // Neither the channel scan nor warm-up has a handler on this page yet.
-    QVERIFY(!s.scan);
-    QVERIFY(!s.warmup);
+    QCOMPARE(s.scan, enabled.contains("scan"));
+    QCOMPARE(s.warmup, enabled.contains("warmup"));
     QCOMPARE(s.warmupText, warmupText);
     // Hidden wherever the page cannot be used.
     QCOMPARE(s.progressVisible, error.isEmpty());

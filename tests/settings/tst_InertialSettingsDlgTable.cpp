@@ -42,7 +42,17 @@ private slots:
 private:
     QTableWidget* table(Dlg& dialog) { return dialog.findChild<QTableWidget*>("tableWidget"); }
     QStringList column0(Dlg& dialog);
+    // A cell's text, or what the combo in it shows.
+    static QString shown(QTableWidget* table, int row, int column);
 };
+
+QString tst_InertialSettingsDlgTable::shown(QTableWidget* table, int row, int column)
+{
+    if (const auto* combo = qobject_cast<const QComboBox*>(table->cellWidget(row, column)))
+        return combo->currentText();
+    const QTableWidgetItem* item = table->item(row, column);
+    return item ? item->text() : QString();
+}
 
 QStringList tst_InertialSettingsDlgTable::column0(Dlg& dialog)
 {
@@ -109,7 +119,7 @@ void tst_InertialSettingsDlgTable::typicalRows()
     QCOMPARE(text(Dlg::ColModel), model);
     QCOMPARE(text(Dlg::ColName), name);
     QCOMPARE(text(Dlg::ColVersion), version);
-    QCOMPARE(text(Dlg::ColChannel), channel);
+    QCOMPARE(shown(t, row, Dlg::ColChannel), channel);
     QCOMPARE(qobject_cast<QComboBox*>(t->cellWidget(row, Dlg::ColWakeupMode)) != nullptr, modeCombo);
     if (temperature == "bar") {
         auto* bar = qobject_cast<TemperatureBar*>(t->cellWidget(row, Dlg::ColTemperature));
@@ -320,7 +330,7 @@ void tst_InertialSettingsDlgTable::failures()
     QCOMPARE(fake->message_texts().value(0), message);
     QCOMPARE(column0(dialog), rows);
     if (cellRow >= 0)
-        QCOMPARE(table(dialog)->item(cellRow, cellColumn)->text(), cellText);
+        QCOMPARE(shown(table(dialog), cellRow, cellColumn), cellText);
     QCOMPARE(fake->unexpected(), QList<QByteArray>());
 }
 
@@ -352,7 +362,7 @@ void tst_InertialSettingsDlgTable::presencePoll()
     QVERIFY(!pollingAfter);
     QVERIFY(qobject_cast<TemperatureBar*>(t->cellWidget(4, Dlg::ColTemperature)));
     QVERIFY(qobject_cast<QComboBox*>(t->cellWidget(4, Dlg::ColWakeupMode)));
-    QCOMPARE(t->item(4, Dlg::ColChannel)->text(), QString("20"));
+    QCOMPARE(shown(t, 4, Dlg::ColChannel), QString("20"));
 }
 
 void tst_InertialSettingsDlgTable::presencePollStopsWhenTrackingGoes()
@@ -473,8 +483,12 @@ void tst_InertialSettingsDlgTable::roundTripsOfOneOpening()
     // three modes offered and the active mode for its combo and the channel.
     QCOMPARE(fake->count("inertial sensor_wakeup_mode_available NRV IMU9 'S0001' 'wm_tap'"), 2);
     QCOMPARE(fake->count("inertial sensor_radio_channel NRV IMU9 'S0001'"), 1);
+    // Each transceiver's usable channels are read once per opening, and the
+    // first rebuild reads every channel's activity for the busy marks.
+    QCOMPARE(fake->count("inertial transceiver_available_radio_channel NRV Dongle 'T1001' t03"), 1);
+    QCOMPARE(fake->count("inertial transceiver_radio_channel_activity NRV Dongle 'T1002' 14"), 1);
     // The budget of one opening: a further query per opening is a decision, not an accident.
-    QVERIFY2(trips <= 123, qPrintable(QString::number(trips)));
+    QVERIFY2(trips <= 147, qPrintable(QString::number(trips)));
 }
 
 QTEST_MAIN(tst_InertialSettingsDlgTable)

@@ -3,6 +3,7 @@
 #include <QAction>
 #include <QComboBox>
 #include <QDialog>
+#include <QMessageBox>
 #include <QPushButton>
 #include <QTableWidget>
 
@@ -26,6 +27,8 @@ private slots:
     void listsTransceiversAndSensors();
     void sensorModeReachesTheController();
     void pageModeReachesEveryReachableSensor();
+    void movedTransceiverTakesItsSensors();
+    void deletedSensorIsGone();
 
 private:
     // Opens "In&ertial Sensor", runs `inside` on the dialog, then leaves by
@@ -175,6 +178,75 @@ void tst_SettingsEndToEnd::pageModeReachesEveryReachableSensor()
     QCOMPARE(after, QString("(mixed)"));
     QVERIFY2(host.messages().join('\n').contains("Error: Unable to reach sensor NRV IMU3 '10233'"),
              qPrintable(host.messages().join('\n')));
+}
+
+void tst_SettingsEndToEnd::movedTransceiverTakesItsSensors()
+{
+    HostHarness host(with_plugin());
+    QVERIFY2(host.ok(), qPrintable(host.error()));
+    const QStringList startup = host.messages();
+
+    QStringList before;
+    QStringList after;
+    QString shown;
+    open_settings(host, [&](QDialog* dialog) {
+        before = device_ids(dialog);
+        auto* table = dialog->findChild<QTableWidget*>("tableWidget");
+        auto* combo = qobject_cast<QComboBox*>(table->cellWidget(row_of(dialog, "70011"), 5));
+        QVERIFY(combo);
+        // Channel 40 in the grid of channels 1 to 90, ten to a row.
+        auto* grid = qobject_cast<QTableWidget*>(combo->view());
+        QVERIFY(grid);
+        combo->showPopup();
+        grid->setCurrentCell(3, 9);
+        QTest::keyClick(grid, Qt::Key_Return);
+        QTRY_COMPARE(ask(host, "inertial transceiver_radio_channel NRV RD2 '70011'"), QByteArray("40"));
+        QCoreApplication::processEvents();
+        after = device_ids(dialog);
+        auto* moved = qobject_cast<QComboBox*>(table->cellWidget(row_of(dialog, "70011"), 5));
+        shown = moved ? moved->currentText() : QString();
+    });
+
+    for (const char* serial : {"10231", "10232"})
+        QCOMPARE(ask(host, QByteArray("inertial sensor_radio_channel NRV IMU3 '") + serial + "'"),
+                 QByteArray("40"));
+    // The other transceiver's sensors stay where they were.
+    QCOMPARE(ask(host, "inertial sensor_radio_channel NRV IMU3 '10234'"), QByteArray("55"));
+    // Still reached through their transceiver: listed under it as before.
+    QCOMPARE(after, before);
+    QCOMPARE(shown, QString("40"));
+    QCOMPARE(host.messages(), startup);
+}
+
+void tst_SettingsEndToEnd::deletedSensorIsGone()
+{
+    HostHarness host(with_plugin());
+    QVERIFY2(host.ok(), qPrintable(host.error()));
+    QCOMPARE(ask(host, "body inertial_sensor standard b02"), QByteArray("NRV IMU3 '10232'"));
+    const QStringList startup = host.messages();
+
+    QString question;
+    QStringList after;
+    open_settings(host, [&](QDialog* dialog) {
+        auto* table = dialog->findChild<QTableWidget*>("tableWidget");
+        QTableWidgetItem* remove = table->item(row_of(dialog, "10232"), 11);
+        QVERIFY(remove);
+        ModalDialogHelper::when_active("QMessageBox", [&](QWidget* w) {
+            question = qobject_cast<QMessageBox*>(w)->text();
+            ModalDialogHelper::press(w, QMessageBox::Yes);
+        });
+        table->scrollToItem(remove);
+        QTest::mouseClick(table->viewport(), Qt::LeftButton, Qt::NoModifier,
+                          table->visualItemRect(remove).center());
+        after = device_ids(dialog);
+    });
+
+    QCOMPARE(question, QString("Delete sensor NRV IMU3 '10232'?"));
+    QCOMPARE(after, (QStringList{"70011", "10231", "70012", "10234", "10233", "cable connected:", "10235"}));
+    QCOMPARE(ask(host, "inertial number_of_sensors"), QByteArray("4"));
+    QCOMPARE(ask(host, "body inertial_sensor standard b02"), QByteArray("none"));
+    QCOMPARE(ask(host, "standard number_of_bodies"), QByteArray("6"));
+    QCOMPARE(host.messages(), startup);
 }
 
 QTEST_MAIN(tst_SettingsEndToEnd)
