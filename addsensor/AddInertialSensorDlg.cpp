@@ -12,6 +12,7 @@
 #include <algorithm>
 #include <cstring>
 
+#include "module/ControllerText.h"
 #include "module/IOManager.h"
 #include "module/VersionGate.h"
 #include "settings/ChannelComboBox.h"
@@ -30,11 +31,6 @@ constexpr int ScanTickMs = 100;
 enum Column { ColumnId, ColumnVendor, ColumnModel, ColumnChannel, ColumnAccept, ColumnCount };
 constexpr int ModeRole = Qt::UserRole + 1;
 constexpr Qt::ItemFlags ReadOnly = Qt::ItemIsSelectable | Qt::ItemIsEnabled;
-
-QString reply_text(const char* reply, size_t capacity)
-{
-    return QString::fromLatin1(reply, int(strnlen(reply, capacity)));
-}
 
 QVariantList channel_list(int first, int last)
 {
@@ -100,7 +96,7 @@ void AddInertialSensorDlg::about_to_exit()
 
 void AddInertialSensorDlg::report(const char* text) const
 {
-    io->show_message("standard", "Norvane", 1, text);
+    ControllerText::report(io, QString::fromLatin1(text));
 }
 
 int AddInertialSensorDlg::update_and_exec()
@@ -197,7 +193,7 @@ void AddInertialSensorDlg::update_table(QList<Sensor> sensors)
     const QSignalBlocker blocker(table);   // Apply is decided once, by the caller
     for (int row = first; row < found.size(); ++row) {
         const Sensor& sensor = found.at(row);
-        auto* id = new QTableWidgetItem(QString(sensor.serial).remove(QLatin1Char('\'')));
+        auto* id = new QTableWidgetItem(ControllerText::withoutSingleQuotes(sensor.serial));
         id->setTextAlignment(Qt::AlignRight | Qt::AlignVCenter);
         auto* vendor = new QTableWidgetItem(sensor.vendor_desc);
         auto* model = new QTableWidgetItem(sensor.model_desc);
@@ -275,7 +271,7 @@ void AddInertialSensorDlg::on_pushButton_scan_clicked()
                 tr("Scanning channel(s) aborted, could not get informations of dongle 1"));
             return;
         }
-        transceiver = reply_text(reply, sizeof reply);
+        transceiver = ControllerText::reply(reply);
     }
 
     added = get_added_sensors();
@@ -317,7 +313,7 @@ QList<AddInertialSensorDlg::Sensor> AddInertialSensorDlg::get_added_sensors()
             report("Error: Unable to get informations of sensor");
             continue;
         }
-        const QStringList words = reply_text(reply, sizeof reply).split(QLatin1Char(' '), Qt::SkipEmptyParts);
+        const QStringList words = ControllerText::reply(reply).split(QLatin1Char(' '), Qt::SkipEmptyParts);
         if (words.size() < 3)
             continue;
         Sensor sensor;
@@ -451,7 +447,7 @@ void AddInertialSensorDlg::add_sensor_to_foundList(int count)
             report("Error: Unable to get informations of sensor to add");
             break;
         }
-        const QString line = reply_text(reply, sizeof reply);
+        const QString line = ControllerText::reply(reply);
         if (line.isEmpty())
             break;
         const QStringList words = line.split(QLatin1Char(' '));
@@ -481,12 +477,12 @@ void AddInertialSensorDlg::add_sensor_to_foundList(int count)
             report("Error: Unable to get description of sensor to add");
             break;
         }
-        sensor.model_desc = reply_text(reply, sizeof reply).remove(QLatin1Char('"'));
+        sensor.model_desc = ControllerText::withoutDoubleQuotes(ControllerText::reply(reply));
         if (io->get_string(reply, "inertial sensor_vendor_desc %s", vendor.constData()) != 0) {
             report("Error: Unable to get vendor description of sensor to add");
             break;
         }
-        sensor.vendor_desc = reply_text(reply, sizeof reply).remove(QLatin1Char('"'));
+        sensor.vendor_desc = ControllerText::withoutDoubleQuotes(ControllerText::reply(reply));
         sensors << sensor;
     }
     update_table(sensors);
@@ -637,7 +633,7 @@ void AddInertialSensorDlg::on_pushButton_apply_clicked()
         }
         if (std::strncmp(reply, "norvane ok", sizeof reply) != 0) {
             cursor.restore();
-            const QString why = reply_text(reply, sizeof reply).remove(QLatin1Char('\''));
+            const QString why = ControllerText::withoutSingleQuotes(ControllerText::reply(reply));
             QMessageBox::information(this, tr("Information"), tr("Could not add sensor ") + why,
                                      QMessageBox::Ok);
             return;

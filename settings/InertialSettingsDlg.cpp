@@ -20,10 +20,11 @@
 
 #include "ChannelComboBox.h"
 #include "SensorChannelCombo.h"
-#include "SensorIdentity.h"
 #include "addsensor/AddInertialSensorDlg.h"
+#include "module/ControllerText.h"
 #include "module/IOManager.h"
 #include "module/IneritalMessageReceiver.h"
+#include "module/SensorIdentity.h"
 #include "module/VersionGate.h"
 #include "statusbar/BatteryBar.h"
 #include "statusbar/TemperatureBar.h"
@@ -63,28 +64,6 @@ const QString CommandDone = QStringLiteral("norvane ok");
 int sane_count(int count)
 {
     return qBound(0, count, MaxListIndex);
-}
-
-// A reply the host wrote into one of our buffers; never read past it even
-// if a host forgot the terminator.
-QString reply_text(const char* reply)
-{
-    return QString::fromLatin1(reply, int(qstrnlen(reply, IOManager::ReplyCapacity)));
-}
-
-QByteArray latin(const QString& text)
-{
-    return text.toLatin1();
-}
-
-QString without(QString text, QChar character)
-{
-    return text.remove(character);
-}
-
-QString red(const QString& text)
-{
-    return QStringLiteral("<b><font color=red>") + text + QStringLiteral("</font></b>");
 }
 
 // The status lamps belong to the host; a host without them still gets the
@@ -386,20 +365,19 @@ void InertialSettingsDlg::end_warmup_display()
 
 void InertialSettingsDlg::show_error(const QString& text)
 {
-    ui->label_error->setText(red(text));
+    ui->label_error->setText(ControllerText::red(text));
 }
 
 void InertialSettingsDlg::report(const QString& text)
 {
-    if (io)
-        io->show_message("standard", "Norvane", 1, latin(text).constData());
+    ControllerText::report(io, text);
 }
 
 QString InertialSettingsDlg::checked_text(int result, const char* reply, const QString& fallback,
                                           const QString& message)
 {
     if (result == 0)
-        return reply_text(reply);
+        return ControllerText::reply(reply);
     report(message);
     return fallback;
 }
@@ -424,7 +402,7 @@ bool InertialSettingsDlg::read_list_item(SensorIdentity* identity, const char* f
         report(failure);
         return false;
     }
-    *identity = SensorIdentity::parse(reply_text(reply));
+    *identity = SensorIdentity::parse(ControllerText::reply(reply));
     return true;
 }
 
@@ -435,7 +413,7 @@ bool InertialSettingsDlg::is_config_locked()
     if (!VersionGate::available(backend_versions, 1, 9))
         return false;
     char reply[IOManager::ReplyCapacity];
-    return io->get_string(reply, "config is_changeable") == 0 && reply_text(reply) == No;
+    return io->get_string(reply, "config is_changeable") == 0 && ControllerText::reply(reply) == No;
 }
 
 bool InertialSettingsDlg::is_inertial_available()
@@ -443,7 +421,7 @@ bool InertialSettingsDlg::is_inertial_available()
     if (!VersionGate::available(backend_versions, 1, 12))
         return false;
     char reply[IOManager::ReplyCapacity];
-    return io->get_string(reply, "inertial available") == 0 && reply_text(reply) == Yes;
+    return io->get_string(reply, "inertial available") == 0 && ControllerText::reply(reply) == Yes;
 }
 
 bool InertialSettingsDlg::is_warmup_active()
@@ -453,7 +431,7 @@ bool InertialSettingsDlg::is_warmup_active()
         report(tr("Could not get warmup status"));
         return false;
     }
-    return reply_text(reply) == Yes;
+    return ControllerText::reply(reply) == Yes;
 }
 
 bool InertialSettingsDlg::isTransceiverPresent()
@@ -465,7 +443,7 @@ bool InertialSettingsDlg::isTransceiverPresent()
 bool InertialSettingsDlg::isSensorPresent(const QString& identity)
 {
     bool present = false;
-    return io->get_bool(&present, "inertial sensor_present %s", latin(identity).constData()) == 0
+    return io->get_bool(&present, "inertial sensor_present %s", ControllerText::latin(identity).constData()) == 0
            && present;
 }
 
@@ -654,7 +632,7 @@ void InertialSettingsDlg::on_tableWidget_itemChanged(QTableWidgetItem* item)
     if (body.isEmpty() || body == None)
         return;
     const QSignalBlocker quiet(ui->tableWidget);
-    if (io->set_value("body desc %s \"%s\"", latin(body).constData(), latin(edited).constData()) != 0) {
+    if (io->set_value("body desc %s \"%s\"", ControllerText::latin(body).constData(), ControllerText::latin(edited).constData()) != 0) {
         report(tr("Error: Unable to set body description %1").arg(body));
         // Show the name the controller kept, not the refused one.
         item->setText(description);
@@ -751,7 +729,7 @@ void InertialSettingsDlg::update_table()
 
     // One transceiver without a suggestion is enough: the user should scan.
     if (suggestion_missing) {
-        ui->label_error3->setText(red(tr("Please scan available channels")));
+        ui->label_error3->setText(ControllerText::red(tr("Please scan available channels")));
         ui->label_error3->show();
     } else {
         ui->label_error3->hide();
@@ -801,7 +779,7 @@ bool InertialSettingsDlg::fill_dongle_row(int row, const QString& identity)
 {
     QTableWidget* table = ui->tableWidget;
     const SensorIdentity id = SensorIdentity::parse(identity);
-    const QByteArray line = latin(identity);
+    const QByteArray line = ControllerText::latin(identity);
     const int number = row + 1;
     char reply[IOManager::ReplyCapacity];
 
@@ -813,20 +791,20 @@ bool InertialSettingsDlg::fill_dongle_row(int row, const QString& identity)
     const QString version = checked_text(
         io->get_string(reply, "inertial transceiver_version %s", line.constData()), reply,
         QStringLiteral("error"), tr("Error: Unable to get firmware version of dongle %1").arg(number));
-    table->setItem(row, ColVersion, text_item(without(version, QLatin1Char('"')), Qt::ItemIsEnabled));
+    table->setItem(row, ColVersion, text_item(ControllerText::withoutDoubleQuotes(version), Qt::ItemIsEnabled));
 
     const QString vendor = checked_text(
-        io->get_string(reply, "inertial transceiver_vendor_desc %s", latin(id.vendor()).constData()),
+        io->get_string(reply, "inertial transceiver_vendor_desc %s", ControllerText::latin(id.vendor()).constData()),
         reply, QStringLiteral("error"),
         tr("Error: Unable to get vendor description of dongle %1").arg(number));
-    table->setItem(row, ColVendor, text_item(without(vendor, QLatin1Char('"')), Qt::ItemIsEnabled));
+    table->setItem(row, ColVendor, text_item(ControllerText::withoutDoubleQuotes(vendor), Qt::ItemIsEnabled));
 
     const QString model = checked_text(
-        io->get_string(reply, "inertial transceiver_model_desc %s %s", latin(id.vendor()).constData(),
-                       latin(id.model()).constData()),
+        io->get_string(reply, "inertial transceiver_model_desc %s %s", ControllerText::latin(id.vendor()).constData(),
+                       ControllerText::latin(id.model()).constData()),
         reply, QStringLiteral("error"),
         tr("Error: Unable to get model description of dongle %1").arg(number));
-    QTableWidgetItem* model_item = text_item(without(model, QLatin1Char('"')), Qt::ItemIsEnabled);
+    QTableWidgetItem* model_item = text_item(ControllerText::withoutDoubleQuotes(model), Qt::ItemIsEnabled);
     model_item->setData(DongleIdentityRole, id.fields());
     table->setItem(row, ColModel, model_item);
 
@@ -853,7 +831,7 @@ bool InertialSettingsDlg::fill_dongle_row(int row, const QString& identity)
 bool InertialSettingsDlg::fill_dongle_channel(int row, const QString& identity)
 {
     QTableWidget* table = ui->tableWidget;
-    const QByteArray line = latin(identity);
+    const QByteArray line = ControllerText::latin(identity);
     const int number = row + 1;
     auto* combo = qobject_cast<ChannelComboBox*>(table->cellWidget(row, ColChannel));
     if (!combo) {
@@ -905,7 +883,7 @@ QList<int> InertialSettingsDlg::available_channels_of(int number, const QString&
     if (known != known_available_channels.cend())
         return *known;
 
-    const QByteArray line = latin(identity);
+    const QByteArray line = ControllerText::latin(identity);
     int reported = 0;
     if (io->get_int(&reported, "inertial number_of_transceiver_available_radio_channels %s", line.constData()) != 0) {
         report(failure);
@@ -961,13 +939,13 @@ bool InertialSettingsDlg::add_sensors()
         }
         char reply[IOManager::ReplyCapacity];
         const QString identity = id.line();
-        const QByteArray line = latin(identity);
+        const QByteArray line = ControllerText::latin(identity);
 
         if (io->get_string(reply, "inertial body_of_sensor %s", line.constData()) != 0) {
             report(tr("Could not get body of sensor %1").arg(i));
             return false;
         }
-        const QString body = reply_text(reply);
+        const QString body = ControllerText::reply(reply);
 
         QString transceiver;
         if (io->get_string(reply, "inertial transceiver_of_sensor %s", line.constData()) != 0) {
@@ -975,7 +953,7 @@ bool InertialSettingsDlg::add_sensors()
             if (transceiver_identities.isEmpty())
                 return false;
         } else {
-            transceiver = reply_text(reply);
+            transceiver = ControllerText::reply(reply);
         }
         sensor_list << sensor{list_key(i), id.vendor(),
                               id.model(), id.serial()};
@@ -1005,7 +983,7 @@ void InertialSettingsDlg::fill_sensor_row(int row, const SensorIdentity& id, con
 {
     QTableWidget* table = ui->tableWidget;
     const QString identity = id.line();
-    const QByteArray line = latin(identity);
+    const QByteArray line = ControllerText::latin(identity);
     char reply[IOManager::ReplyCapacity];
 
     QTableWidgetItem* device = text_item(id.deviceId(), Qt::ItemIsEnabled);
@@ -1014,15 +992,15 @@ void InertialSettingsDlg::fill_sensor_row(int row, const SensorIdentity& id, con
     table->setItem(row, ColDeviceId, device);
 
     const QString vendor = checked_text(
-        io->get_string(reply, "inertial sensor_vendor_desc %s", latin(id.vendor()).constData()), reply,
+        io->get_string(reply, "inertial sensor_vendor_desc %s", ControllerText::latin(id.vendor()).constData()), reply,
         QStringLiteral("error"), tr("Error: Unable to get vendor description of sensor %1").arg(index));
-    table->setItem(row, ColVendor, text_item(without(vendor, QLatin1Char('"')), Qt::ItemIsEnabled));
+    table->setItem(row, ColVendor, text_item(ControllerText::withoutDoubleQuotes(vendor), Qt::ItemIsEnabled));
 
     const QString model = checked_text(
-        io->get_string(reply, "inertial sensor_model_desc %s %s", latin(id.vendor()).constData(),
-                       latin(id.model()).constData()),
+        io->get_string(reply, "inertial sensor_model_desc %s %s", ControllerText::latin(id.vendor()).constData(),
+                       ControllerText::latin(id.model()).constData()),
         reply, QStringLiteral("error"), tr("Error: Unable to get model description of sensor %1").arg(index));
-    table->setItem(row, ColModel, text_item(without(model, QLatin1Char('"')), Qt::ItemIsEnabled));
+    table->setItem(row, ColModel, text_item(ControllerText::withoutDoubleQuotes(model), Qt::ItemIsEnabled));
 
     auto* name = new QTableWidgetItem;
     name->setData(BodyIdRole, body);
@@ -1033,10 +1011,9 @@ void InertialSettingsDlg::fill_sensor_row(int row, const SensorIdentity& id, con
         name->setText(body);
         name_flags = Qt::ItemIsSelectable;
     } else {
-        name->setText(without(checked_text(io->get_string(reply, "body desc %s", latin(body).constData()),
+        name->setText(ControllerText::withoutDoubleQuotes(checked_text(io->get_string(reply, "body desc %s", ControllerText::latin(body).constData()),
                                            reply, QString(),
-                                           tr("Could not get body description of body %1").arg(index)),
-                              QLatin1Char('"')));
+                                           tr("Could not get body description of body %1").arg(index))));
         // The body's name is edited right here.
         name_flags = Qt::ItemIsSelectable | Qt::ItemIsEnabled | Qt::ItemIsEditable;
     }
@@ -1122,9 +1099,9 @@ void InertialSettingsDlg::update_firmware(int row, QString identity, bool presen
     }
     char reply[IOManager::ReplyCapacity];
     const QString version = checked_text(
-        io->get_string(reply, "inertial sensor_version %s", latin(identity).constData()), reply,
+        io->get_string(reply, "inertial sensor_version %s", ControllerText::latin(identity).constData()), reply,
         QStringLiteral("v0.0.0"), tr("Error: Unable to get firmware version of sensor"));
-    ui->tableWidget->setItem(row, ColVersion, text_item(without(version, QLatin1Char('\'')), Qt::ItemIsEnabled));
+    ui->tableWidget->setItem(row, ColVersion, text_item(ControllerText::withoutSingleQuotes(version), Qt::ItemIsEnabled));
 }
 
 void InertialSettingsDlg::update_sensor_channel(int row, QString identity, bool present)
@@ -1135,10 +1112,10 @@ void InertialSettingsDlg::update_sensor_channel(int row, QString identity, bool 
     bool answered = false;
     if (VersionGate::available(backend_versions, 1, 21)) {
         char reply[IOManager::ReplyCapacity];
-        if (io->get_string(reply, "inertial sensor_radio_channel %s", latin(identity).constData()) != 0) {
+        if (io->get_string(reply, "inertial sensor_radio_channel %s", ControllerText::latin(identity).constData()) != 0) {
             report(tr("Error: Unable to get sensor channel"));
         } else {
-            connection = reply_text(reply).trimmed();
+            connection = ControllerText::reply(reply).trimmed();
             answered = true;
         }
     }
@@ -1184,7 +1161,7 @@ void InertialSettingsDlg::update_battery(int row, QString identity, bool present
         return;
     }
     double charge = -1.0;
-    if (io->get_double(&charge, "inertial sensor_battery %s", latin(identity).constData()) != 0) {
+    if (io->get_double(&charge, "inertial sensor_battery %s", ControllerText::latin(identity).constData()) != 0) {
         report(tr("Error: Unable to get battery status of sensor"));
         charge = -1.0;
     }
@@ -1214,7 +1191,7 @@ void InertialSettingsDlg::update_temperature(int row, QString identity, bool pre
     // temperature at which the sensor counts as warm. The bar fills towards
     // the latter and turns green close to it.
     double reading[2] = {0.0, 0.0};
-    if (io->get_doubles(reading, 2, "inertial sensor_temperature %s", latin(identity).constData()) != 0) {
+    if (io->get_doubles(reading, 2, "inertial sensor_temperature %s", ControllerText::latin(identity).constData()) != 0) {
         report(tr("Error: Unable to get temperature status of sensor %1").arg(row + 1));
         return;
     }
@@ -1233,7 +1210,7 @@ void InertialSettingsDlg::update_temperature(int row, QString identity, bool pre
 
 void InertialSettingsDlg::update_sensor_calibration(int row, QString identity, bool /*present*/)
 {
-    const int status = getSensorCalibrationStatus(latin(identity).constData());
+    const int status = getSensorCalibrationStatus(ControllerText::latin(identity).constData());
     QTableWidgetItem* item = ensure_item(row, ColCalibration);
     item->setText(QString());
     if (status == 1) {
@@ -1255,7 +1232,7 @@ int InertialSettingsDlg::getSensorCalibrationStatus(const char* identity)
         report(tr("Error: Unable to get calibration status of sensor"));
         return -1;
     }
-    const QString handeye = reply_text(reply).trimmed();
+    const QString handeye = ControllerText::reply(reply).trimmed();
     if (handeye.isEmpty())
         return -1;
     return handeye == None ? 0 : 1;
@@ -1272,7 +1249,7 @@ bool InertialSettingsDlg::checkBodyTypeIdExists(QString body_id)
     if (!numeric || number < 1)
         return false;
     int count = 0;
-    if (io->get_int(&count, "body number_of_bodies %s", latin(words.at(0)).constData()) != 0) {
+    if (io->get_int(&count, "body number_of_bodies %s", ControllerText::latin(words.at(0)).constData()) != 0) {
         report(tr("Error: Unable to get number of bodies"));
         return false;
     }
@@ -1336,11 +1313,11 @@ QStringList InertialSettingsDlg::sensors_of_dongle_by_presence(const QString& id
     const QStringList sensors = get_sensorList_of_dongle(identity);
     for (int i = 0; i < sensors.size(); ++i) {
         char reply[IOManager::ReplyCapacity];
-        if (io->get_string(reply, "inertial sensor_present %s", latin(sensors.at(i)).constData()) != 0) {
+        if (io->get_string(reply, "inertial sensor_present %s", ControllerText::latin(sensors.at(i)).constData()) != 0) {
             report(tr("Error: Unable to get present status of sensor %1").arg(i + 1));
             continue;
         }
-        if ((reply_text(reply) == Yes) == present)
+        if ((ControllerText::reply(reply) == Yes) == present)
             result << sensors.at(i);
     }
     return result;
@@ -1379,29 +1356,29 @@ void InertialSettingsDlg::get_all_wakeup_modes()
             report(tr("Error: Unable to get wakeup modes of inertial system"));
             return;
         }
-        const QString mode = reply_text(reply).trimmed();
+        const QString mode = ControllerText::reply(reply).trimmed();
         // The placeholder is never offered, so its description is not needed.
         if (mode == None)
             continue;
-        if (io->get_string(reply, "inertial wakeup_mode_desc %s", latin(mode).constData()) != 0) {
+        if (io->get_string(reply, "inertial wakeup_mode_desc %s", ControllerText::latin(mode).constData()) != 0) {
             report(tr("Error: Unable to get wakeup description of inertial system"));
             return;
         }
-        all_wakeup_modes.insert(mode, without(reply_text(reply), QLatin1Char('\'')));
+        all_wakeup_modes.insert(mode, ControllerText::withoutSingleQuotes(ControllerText::reply(reply)));
     }
 }
 
 void InertialSettingsDlg::get_available_wakeup_modes_of_sensor(QString identity, QComboBox* combo)
 {
-    const QByteArray line = latin(identity);
+    const QByteArray line = ControllerText::latin(identity);
     for (auto mode = all_wakeup_modes.cbegin(); mode != all_wakeup_modes.cend(); ++mode) {
         char reply[IOManager::ReplyCapacity];
         if (io->get_string(reply, "inertial sensor_wakeup_mode_available %s %s", line.constData(),
-                           latin(mode.key()).constData()) != 0) {
+                           ControllerText::latin(mode.key()).constData()) != 0) {
             report(tr("Error: Unable to get available wakeup mode of sensor %1").arg(identity));
             continue;
         }
-        if (reply_text(reply) == Yes && combo)
+        if (ControllerText::reply(reply) == Yes && combo)
             combo->addItem(mode.value(), identity + QLatin1Char(' ') + mode.key());
     }
 }
@@ -1409,11 +1386,11 @@ void InertialSettingsDlg::get_available_wakeup_modes_of_sensor(QString identity,
 QString InertialSettingsDlg::get_wakeup_modeID_of_sensor(QString identity)
 {
     char reply[IOManager::ReplyCapacity];
-    if (io->get_string(reply, "inertial sensor_wakeup_mode %s", latin(identity).constData()) != 0) {
+    if (io->get_string(reply, "inertial sensor_wakeup_mode %s", ControllerText::latin(identity).constData()) != 0) {
         report(tr("Error: Unable to get wakeup mode of sensor %1").arg(identity));
         return QString();
     }
-    return reply_text(reply).trimmed();
+    return ControllerText::reply(reply).trimmed();
 }
 
 void InertialSettingsDlg::update_available_wakeup_modes()
@@ -1428,11 +1405,11 @@ void InertialSettingsDlg::update_available_wakeup_modes()
         for (auto mode = all_wakeup_modes.cbegin(); mode != all_wakeup_modes.cend(); ++mode) {
             char reply[IOManager::ReplyCapacity];
             if (io->get_string(reply, "inertial sensor_wakeup_mode_available %s %s",
-                               latin(identity).constData(), latin(mode.key()).constData()) != 0) {
+                               ControllerText::latin(identity).constData(), ControllerText::latin(mode.key()).constData()) != 0) {
                 report(tr("Error: Unable to get available wakeup mode of sensor "));
                 continue;
             }
-            if (reply_text(reply) != Yes)
+            if (ControllerText::reply(reply) != Yes)
                 continue;
             QStringList& offering = sensors_of_wakeup_mode[mode.key()];
             if (!offering.contains(identity))
@@ -1479,7 +1456,7 @@ void InertialSettingsDlg::set_all_sensorWakeupModes_ComboBoxes()
             continue;
         char reply[IOManager::ReplyCapacity];
         const QString present = checked_text(
-            io->get_string(reply, "inertial sensor_present %s", latin(identity).constData()), reply,
+            io->get_string(reply, "inertial sensor_present %s", ControllerText::latin(identity).constData()), reply,
             QString(), tr("Error: Unable to get informations of sensor"));
         update_wakeup_combo(row, identity, present == Yes);
     }
@@ -1543,8 +1520,8 @@ void InertialSettingsDlg::wakeup_mode_active(const QString& text)
     const QPointer<QComboBox> chosen(combo);
     wait_cursor_active(true);
     char reply[IOManager::ReplyCapacity];
-    if (io->get_string(reply, "inertial sensor_present %s", latin(identity).constData()) != 0
-        || reply_text(reply) != Yes) {
+    if (io->get_string(reply, "inertial sensor_present %s", ControllerText::latin(identity).constData()) != 0
+        || ControllerText::reply(reply) != Yes) {
         wait_cursor_active(false);
         report(tr("Error: Unable to reach sensor"));
         if (chosen)
@@ -1575,10 +1552,10 @@ void InertialSettingsDlg::on_comboBox_mode_activated(const QString& text)
     bool all_set = true;
     for (const QString& mode : data.split(QLatin1Char(' '), Qt::SkipEmptyParts)) {
         for (const QString& identity : sensors_of_wakeup_mode.value(mode)) {
-            const QByteArray line = latin(identity);
+            const QByteArray line = ControllerText::latin(identity);
             char reply[IOManager::ReplyCapacity];
             if (io->get_string(reply, "inertial sensor_present %s", line.constData()) != 0
-                || reply_text(reply) != Yes) {
+                || ControllerText::reply(reply) != Yes) {
                 report(tr("Error: Unable to reach sensor ") + identity);
                 all_set = false;
                 continue;
@@ -1590,7 +1567,7 @@ void InertialSettingsDlg::on_comboBox_mode_activated(const QString& text)
             if (io->get_string(reply, "inertial sensor_wakeup_mode %s", line.constData()) != 0)
                 report(tr("Error: Unable to get wakeupmode of sensor %1").arg(identity));
             else
-                wakeup_mode_of_sensor.insert(identity, reply_text(reply).trimmed());
+                wakeup_mode_of_sensor.insert(identity, ControllerText::reply(reply).trimmed());
         }
     }
     set_all_sensorWakeupModes_ComboBoxes();
@@ -1603,9 +1580,9 @@ void InertialSettingsDlg::on_comboBox_mode_activated(const QString& text)
 
 int InertialSettingsDlg::set_sensor_wakeup_mode(const QString& identity, QString mode)
 {
-    const QByteArray line = latin(identity);
+    const QByteArray line = ControllerText::latin(identity);
     io->set_timeout(false, SlowAnswerTimeoutMs, true);
-    if (io->set_value("inertial sensor_wakeup_mode %s %s", line.constData(), latin(mode).constData()) != 0) {
+    if (io->set_value("inertial sensor_wakeup_mode %s %s", line.constData(), ControllerText::latin(mode).constData()) != 0) {
         report(tr("Error: Unable to set wakeup mode of sensor"));
         return -1;
     }
@@ -1699,7 +1676,7 @@ void InertialSettingsDlg::update_frequency(int row, QString identity, bool prese
     auto* item = new QTableWidgetItem;
     if (present && VersionGate::available(backend_versions, 1, 21)) {
         double frequency = 0.0;
-        if (io->get_double(&frequency, "inertial sensor_output_frequency %s", latin(identity).constData()) != 0)
+        if (io->get_double(&frequency, "inertial sensor_output_frequency %s", ControllerText::latin(identity).constData()) != 0)
             report(tr("Error: Unable to get frequency of sensor %1").arg(row + 1));
         else if (frequency > 10.0 && std::isfinite(frequency))
             item->setText(tr("%1 Hz").arg(frequency, 0, 'f', 0));
@@ -1714,7 +1691,7 @@ void InertialSettingsDlg::update_frequency(int row, QString identity, bool prese
 int InertialSettingsDlg::getSensorChannel(const QString& sensor)
 {
     int channel = -1;
-    if (io->get_int(&channel, "inertial sensor_radio_channel %s", latin(sensor).constData()) != 0) {
+    if (io->get_int(&channel, "inertial sensor_radio_channel %s", ControllerText::latin(sensor).constData()) != 0) {
         report(tr("Error: Unable to get radio channel of sensor"));
         return -1;
     }
@@ -1767,7 +1744,7 @@ void InertialSettingsDlg::change_channel_of_dongle(QString transceiver, int chan
         unreachable = still;
     }
 
-    const QByteArray line = latin(transceiver);
+    const QByteArray line = ControllerText::latin(transceiver);
     io->set_timeout(false, SlowAnswerTimeoutMs, true);
     if (io->set_value("inertial transceiver_radio_channel %s %d", line.constData(), channel) != 0)
         report(tr("Error: Unable to set radio channel of dongle %1").arg(transceiver));
@@ -1782,13 +1759,13 @@ void InertialSettingsDlg::change_channel_of_dongle(QString transceiver, int chan
 
 bool InertialSettingsDlg::move_sensor(const QString& sensor, int channel)
 {
-    const QByteArray line = latin(sensor);
+    const QByteArray line = ControllerText::latin(sensor);
     char reply[IOManager::ReplyCapacity];
     // A sensor that wakes on touch and sleeps now cannot hear the order.
     if (io->get_string(reply, "inertial sensor_wakeup_mode %s", line.constData()) == 0
-        && reply_text(reply).trimmed() == WakeOnTap
+        && ControllerText::reply(reply).trimmed() == WakeOnTap
         && io->get_string(reply, "inertial sensor_present %s", line.constData()) == 0
-        && reply_text(reply) == No)
+        && ControllerText::reply(reply) == No)
         return false;
 
     io->set_timeout(false, SlowAnswerTimeoutMs, true);
@@ -1809,11 +1786,11 @@ QString InertialSettingsDlg::unreachable_text(const QStringList& sensors)
     for (const QString& sensor : sensors) {
         QStringList parts{tr("Sensor: ") + sensor};
         char reply[IOManager::ReplyCapacity];
-        if (io->get_string(reply, "inertial body_of_sensor %s", latin(sensor).constData()) == 0) {
-            const QString body = reply_text(reply);
+        if (io->get_string(reply, "inertial body_of_sensor %s", ControllerText::latin(sensor).constData()) == 0) {
+            const QString body = ControllerText::reply(reply);
             if (body != None && checkBodyTypeIdExists(body)
-                && io->get_string(reply, "body desc %s", latin(body).constData()) == 0)
-                parts << tr("of body: ") + without(reply_text(reply), QLatin1Char('"'));
+                && io->get_string(reply, "body desc %s", ControllerText::latin(body).constData()) == 0)
+                parts << tr("of body: ") + ControllerText::withoutDoubleQuotes(ControllerText::reply(reply));
         }
         text += QLatin1Char('\n') + parts.join(QStringLiteral(", "));
     }
@@ -1854,7 +1831,7 @@ void InertialSettingsDlg::on_pushButton_scanAvailableChannels_clicked()
     io->set_timeout(false, SlowAnswerTimeoutMs, true);
     char reply[IOManager::ReplyCapacity];
     const int result = io->send_command(reply, "norvane inertial scan_transceiver_radio_channels");
-    if (result != 0 || reply_text(reply) != CommandDone) {
+    if (result != 0 || ControllerText::reply(reply) != CommandDone) {
         if (result != 0)
             report(tr("Error: Unable to execute scan transceiver channel"));
         // Nothing was measured: the bar must not claim a scan under way.
@@ -1912,7 +1889,7 @@ void InertialSettingsDlg::scan_transciever_radio_channel_activity(QString transc
 
 void InertialSettingsDlg::measure_activity(const QString& transceiver, const QList<int>& channels)
 {
-    const QByteArray line = latin(transceiver);
+    const QByteArray line = ControllerText::latin(transceiver);
     QList<int> busy;
     bool reported = false;
     for (int channel : channels) {
@@ -1980,7 +1957,7 @@ void InertialSettingsDlg::delete_sensor(int row)
         const bool counted = io->get_int(&bodies, "standard number_of_bodies") == 0;
         if (!counted)
             report(tr("Error: Unable to get number of bodies"));
-        if (io->set_value("body inertial_sensor %s none", latin(body).constData()) != 0)
+        if (io->set_value("body inertial_sensor %s none", ControllerText::latin(body).constData()) != 0)
             report(tr("Could not set body of sensor: ") + body);
         // The count is written back whether the body lies within it or not;
         // an unread count is never written, it would drop every body.
@@ -1989,10 +1966,10 @@ void InertialSettingsDlg::delete_sensor(int row)
     }
 
     char reply[IOManager::ReplyCapacity];
-    if (io->send_command(reply, "norvane inertial delete_sensor %s %s %s", latin(fields.at(0)).constData(),
-                         latin(fields.at(1)).constData(), latin(fields.at(2)).constData())
+    if (io->send_command(reply, "norvane inertial delete_sensor %s %s %s", ControllerText::latin(fields.at(0)).constData(),
+                         ControllerText::latin(fields.at(1)).constData(), ControllerText::latin(fields.at(2)).constData())
             == 0
-        && reply_text(reply) == CommandDone) {
+        && ControllerText::reply(reply) == CommandDone) {
         update_table();
         set_comboBox_available_modes();
         return;
@@ -2007,9 +1984,9 @@ void InertialSettingsDlg::deleteAssignmentIfSensorIsAlreadyAssigned(const char* 
         report(tr("Error: Unable to get assignment of sensor"));
         return;
     }
-    const QString body = reply_text(reply);
+    const QString body = ControllerText::reply(reply);
     if (body == None)
         return;
-    if (io->set_value("body inertial_sensor %s none", latin(body).constData()) != 0)
+    if (io->set_value("body inertial_sensor %s none", ControllerText::latin(body).constData()) != 0)
         report(tr("Error: Unable to delete assignment of sensor"));
 }

@@ -4,6 +4,7 @@
 #include <QStringList>
 
 #include "InertialSettingsDlg.h"
+#include "module/ControllerText.h"
 #include "module/IOManager.h"
 
 namespace {
@@ -71,5 +72,5 @@ void SensorChannelCombo::onCurrentIndexChanged(const QString& text)
 
 void SensorChannelCombo::report(const QString& text)
 {
-    io->show_message("standard", "Norvane", 1, text.toLatin1().constData());
+    ControllerText::report(io, text);
 }

@@ -7,6 +7,7 @@
 #include <cmath>
 
 #include "TemperatureBar.h"
+#include "module/ControllerText.h"
 #include "module/IOManager.h"
 #include "module/VersionGate.h"
 
@@ -204,5 +205,5 @@ void InertialStatusBar::show_unavailable()
 
 void InertialStatusBar::report(const char* text)
 {
-    io->show_message("standard", "Norvane", 1, tr(text).toLatin1().constData());
+    ControllerText::report(io, tr(text));
 }

@@ -1,7 +1,7 @@
 #include <QtTest>
 
 #include "ModalDialogHelper.h"
-#include "settings/SensorIdentity.h"
+#include "module/SensorIdentity.h"
 
 // The controller's three-word names of transceivers and sensors.
 class tst_SensorIdentity : public QObject

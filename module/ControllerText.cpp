@@ -1,0 +1,36 @@
+#include "ControllerText.h"
+
+#include <cstring>
+
+#include "IOManager.h"
+
+QString ControllerText::reply(const char* buffer)
+{
+    return QString::fromLatin1(buffer, int(strnlen(buffer, IOManager::ReplyCapacity)));
+}
+
+QString ControllerText::withoutDoubleQuotes(QString text)
+{
+    return text.remove(QLatin1Char('"'));
+}
+
+QString ControllerText::withoutSingleQuotes(QString text)
+{
+    return text.remove(QLatin1Char('\''));
+}
+
+QString ControllerText::red(const QString& text)
+{
+    return QStringLiteral("<b><font color=red>") + text + QStringLiteral("</font></b>");
+}
+
+QByteArray ControllerText::latin(const QString& text)
+{
+    return text.toLatin1();
+}
+
+void ControllerText::report(IOManager* io, const QString& text)
+{
+    if (io)
+        io->show_message("standard", "Norvane", 1, latin(text).constData());
+}

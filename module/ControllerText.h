@@ -1,0 +1,35 @@
+#ifndef CONTROLLERTEXT_H
+#define CONTROLLERTEXT_H
+
+#include <QByteArray>
+#include <QString>
+
+class IOManager;
+
+// The few ways every dialog turns controller replies into what it shows and
+// turns its own texts into what it reports, kept in one place so that no
+// dialog reads a reply buffer or marks an error differently from another.
+class ControllerText
+{
+public:
+    // A reply the host wrote into one of our IOManager::ReplyCapacity
+    // buffers; never read past it, even if a host forgot the terminator.
+    static QString reply(const char* buffer);
+
+    // Descriptions come quoted ("\"Left hand\""), serials in single quotes;
+    // the user sees neither.
+    static QString withoutDoubleQuotes(QString text);
+    static QString withoutSingleQuotes(QString text);
+
+    // How a dialog shows a problem in its own message line.
+    static QString red(const QString& text);
+
+    // The controller's language is ASCII; what cannot be said in Latin-1
+    // goes out as '?', never as a multi-byte sequence it would misread.
+    static QByteArray latin(const QString& text);
+
+    // A failure the user must see, on the host's message display.
+    static void report(IOManager* io, const QString& text);
+};
+
+#endif // CONTROLLERTEXT_H
