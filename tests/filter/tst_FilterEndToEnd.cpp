@@ -37,23 +37,26 @@ void tst_FilterEndToEnd::chosenPresetReachesTheController()
     QVERIFY2(host.ok(), qPrintable(host.error()));
     const int start_messages = host.messages().size();   // the host's own start-up notes
     auto ask = [&](const QByteArray& path) {
-        const QByteArray reply = host.simulator()->handle("norvane get " + path).line;
-        return reply.mid(QByteArray("norvane set " + path + ' ').size());
+        return host.simulator()->handle("norvane get " + path).line.mid(QByteArray("norvane set " + path).size() + 1);
     };
-
     FilterDialog dialog(host.link(), host.window(), host.window()->backend_versions());
+    QString help_title;
     ModalDialogHelper::when_active("FilterDialog", [&](QWidget*) {
         auto* presets = dialog.findChild<QComboBox*>("comboBox_preset");
         QCOMPARE(presets->currentText(), "medium prediction");
         presets->setCurrentIndex(presets->findText("custom"));
         auto* prediction = dialog.findChild<QSpinBox*>("spinBox_prediction");
-        QVERIFY(prediction->isEnabled());
         prediction->setValue(40);
         QTest::keyClick(prediction, Qt::Key_Return);
+        ModalDialogHelper::when_active("FilterHelp", [&](QWidget* help) {
+            help_title = help->windowTitle();
+            help->findChild<QPushButton*>("pushButton_exit")->click();
+        });
+        dialog.findChild<QPushButton*>("pushButton_help")->click();
         dialog.findChild<QPushButton*>("pushButton_exit")->click();
     });
-    dialog.update_and_exec(FilterDialog::StandardBodies, 2);
-
+    QCOMPARE(dialog.update_and_exec(FilterDialog::StandardBodies, 2), int(QDialog::Accepted));
+    QCOMPARE(help_title, "Help Filter");
     QCOMPARE(ask("body filter6d_preset standard b03"), QByteArray("preset6d_custom"));
     QCOMPARE(ask("body filter6d_prediction standard b03"), QByteArray("0.04"));
     QCOMPARE(host.messages().mid(start_messages), QStringList());
