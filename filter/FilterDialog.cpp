@@ -35,7 +35,7 @@ int to_ms(double seconds)
     const double ms = seconds * MsPerSecond;
     if (std::isnan(ms))
         return 0;
-    return int(qBound(-MaxPredictionMs, ms, MaxPredictionMs));   // truncated, as the controller counts
+    return int(qBound(-MaxPredictionMs, ms, MaxPredictionMs));   // whole milliseconds, truncated
 }
 
 // The user's own settings live in custom presets; the others bring theirs.
@@ -52,16 +52,43 @@ bool is_hybrid_custom(const QString& preset)
 
 } // namespace
 
+// The same six lines, and their failures, serve presets and modes.
 struct FilterDialog::ChoiceQueries
 {
     const char* count;
     const char* id;
     const char* available;
     const char* desc;
+    const char* current;
+    const char* set;
     const char* count_failure;
     const char* id_failure;
     const char* available_failure;
     const char* desc_failure;
+    const char* current_failure;
+    const char* set_failure;
+};
+
+const FilterDialog::ChoiceQueries FilterDialog::Presets = {
+    "filter6d number_of_presets", "filter6d preset_id t%02d", "body filter6d_preset_available %s %s",
+    "filter6d preset_desc %s", "body filter6d_preset %s", "body filter6d_preset %s %s",
+    QT_TR_NOOP("Error: Unable to get number of filter 6d presets"),
+    QT_TR_NOOP("Error: Unable to get filter 6d preset id"),
+    QT_TR_NOOP("Error: Unable to get filter 6d preset id available"),
+    QT_TR_NOOP("Error: Unable to get filter 6d preset description"),
+    QT_TR_NOOP("Error: Unable to get filter 6d preset for body %1"),
+    QT_TR_NOOP("Error: Unable to set filter 6d preset for body %1"),
+};
+
+const FilterDialog::ChoiceQueries FilterDialog::Modes = {
+    "filter6d number_of_modes", "filter6d mode_id t%02d", "body filter6d_mode_available %s %s",
+    "filter6d mode_desc %s", "body filter6d_mode %s", "body filter6d_mode %s %s",
+    QT_TR_NOOP("Error: Unable to get number of filter 6d modes"),
+    QT_TR_NOOP("Error: Unable to get filter 6d mode id"),
+    QT_TR_NOOP("Error: Unable to get filter 6d mode id available"),
+    QT_TR_NOOP("Error: Unable to get filter 6d mode description"),
+    QT_TR_NOOP("Error: Unable to get filter 6d mode for body %1"),
+    QT_TR_NOOP("Error: Unable to set filter 6d mode for body %1"),
 };
 
 FilterDialog::FilterDialog(IOManager* io, QWidget* parent, BackendVersions* versions)
@@ -93,9 +120,8 @@ QString FilterDialog::body() const
 int FilterDialog::update_and_exec(int type, int row)
 {
     react = false;
-    dialog_type = type;
     const bool available = filter_available(type);
-    config_locked = getConfigLocked();
+    const bool config_locked = getConfigLocked();
     // The lock image tells why nothing can be changed; otherwise the
     // window shows whatever its parent shows.
     setWindowIcon(config_locked ? QIcon(QStringLiteral(":/lock.png")) : QIcon());
@@ -232,14 +258,13 @@ void FilterDialog::activate_checkbox_active(const QString& body)
 
 void FilterDialog::update_checkbox_active()
 {
-    char reply[IOManager::ReplyCapacity];
+    char reply[IOManager::ReplyCapacity] = {};
     const QByteArray address = ControllerText::latin(body());
-    if (io->get_string(reply, "body filter6d_enabled %s", address.constData()) != 0) {
+    const bool read = io->get_string(reply, "body filter6d_enabled %s", address.constData()) == 0;
+    if (!read)
         report(tr("Error: Unable to get filter info of body"));
-        ui->checkBox_active->setChecked(false);
-        return;
-    }
-    ui->checkBox_active->setChecked(ControllerText::reply(reply) == Yes);
+    // Unknown counts as off: nothing that depends on it can then be edited.
+    ui->checkBox_active->setChecked(read && ControllerText::reply(reply) == Yes);
 }
 
 void FilterDialog::on_checkBox_active_stateChanged(int state)
@@ -302,7 +327,7 @@ void FilterDialog::fill_choices(QComboBox* combo, const ChoiceQueries& queries, 
     }
 }
 
-void FilterDialog::select_current_choice(QComboBox* combo, const char* path, const char* failure)
+void FilterDialog::select_current_choice(QComboBox* combo, const ChoiceQueries& queries)
 {
     char reply[IOManager::ReplyCapacity];
     const QByteArray address = ControllerText::latin(body());
@@ -310,8 +335,8 @@ void FilterDialog::select_current_choice(QComboBox* combo, const char* path, con
         combo->setCurrentIndex(-1);
         return;
     }
-    if (io->get_string(reply, path, address.constData()) != 0) {
-        report(tr(failure).arg(body()));
+    if (io->get_string(reply, queries.current, address.constData()) != 0) {
+        report(tr(queries.current_failure).arg(body()));
         // Showing the first entry would claim a choice the controller did not make.
         combo->setCurrentIndex(-1);
         return;
@@ -319,12 +344,12 @@ void FilterDialog::select_current_choice(QComboBox* combo, const char* path, con
     combo->setCurrentIndex(combo->findData(ControllerText::reply(reply)));
 }
 
-bool FilterDialog::set_choice(QComboBox* combo, const char* path, const char* failure)
+bool FilterDialog::set_choice(QComboBox* combo, const ChoiceQueries& queries)
 {
     const QByteArray address = ControllerText::latin(body());
     const QByteArray id = ControllerText::latin(combo->currentData().toString());
-    if (io->set_value(path, address.constData(), id.constData()) != 0) {
-        report(tr(failure).arg(body()));
+    if (io->set_value(queries.set, address.constData(), id.constData()) != 0) {
+        report(tr(queries.set_failure).arg(body()));
         return false;
     }
     return true;
@@ -332,29 +357,17 @@ bool FilterDialog::set_choice(QComboBox* combo, const char* path, const char* fa
 
 void FilterDialog::update_combobox_preset_list_02(const QString& body)
 {
-    static const ChoiceQueries presets = {
-        "filter6d number_of_presets", "filter6d preset_id t%02d",
-        "body filter6d_preset_available %s %s", "filter6d preset_desc %s",
-        QT_TR_NOOP("Error: Unable to get number of filter 6d presets"),
-        QT_TR_NOOP("Error: Unable to get filter 6d preset id"),
-        QT_TR_NOOP("Error: Unable to get filter 6d preset id available"),
-        QT_TR_NOOP("Error: Unable to get filter 6d preset description"),
-    };
-    fill_choices(ui->comboBox_preset, presets, body);
+    fill_choices(ui->comboBox_preset, Presets, body);
 }
 
 void FilterDialog::update_combobox_preset()
 {
-    select_current_choice(ui->comboBox_preset, "body filter6d_preset %s",
-                          QT_TR_NOOP("Error: Unable to get filter 6d preset for body %1"));
+    select_current_choice(ui->comboBox_preset, Presets);
 }
 
 void FilterDialog::on_comboBox_preset_currentIndexChanged(int index)
 {
-    if (!react || index < 0)
-        return;
-    if (!set_choice(ui->comboBox_preset, "body filter6d_preset %s %s",
-                    QT_TR_NOOP("Error: Unable to set filter 6d preset for body %1")))
+    if (!react || index < 0 || !set_choice(ui->comboBox_preset, Presets))
         return;
     // A standard preset has just set strength, prediction and mode.
     QScopedValueRollback<bool> filling(react, false);
@@ -365,42 +378,33 @@ void FilterDialog::on_comboBox_preset_currentIndexChanged(int index)
 
 void FilterDialog::update_comboBox_mode_list_02(const QString& body)
 {
-    static const ChoiceQueries modes = {
-        "filter6d number_of_modes", "filter6d mode_id t%02d",
-        "body filter6d_mode_available %s %s", "filter6d mode_desc %s",
-        QT_TR_NOOP("Error: Unable to get number of filter 6d modes"),
-        QT_TR_NOOP("Error: Unable to get filter 6d mode id"),
-        QT_TR_NOOP("Error: Unable to get filter 6d mode id available"),
-        QT_TR_NOOP("Error: Unable to get filter 6d mode description"),
-    };
-    fill_choices(ui->comboBox_mode, modes, body);
+    fill_choices(ui->comboBox_mode, Modes, body);
 }
 
 void FilterDialog::update_comboBox_mode()
 {
-    select_current_choice(ui->comboBox_mode, "body filter6d_mode %s",
-                          QT_TR_NOOP("Error: Unable to get filter 6d mode for body %1"));
+    select_current_choice(ui->comboBox_mode, Modes);
     ui->comboBox_mode->setEnabled(active_and_custom());
 }
 
 void FilterDialog::on_comboBox_mode_currentIndexChanged(int index)
 {
-    if (!react || index < 0)
-        return;
-    set_choice(ui->comboBox_mode, "body filter6d_mode %s %s",
-               QT_TR_NOOP("Error: Unable to set filter 6d mode for body %1"));
+    if (react && index >= 0)
+        set_choice(ui->comboBox_mode, Modes);
 }
 
 // --- strength and prediction ---------------------------------------------------
 
+double FilterDialog::read_limit(const char* path)
+{
+    double limit = 0.0;
+    return io->get_double(&limit, path) == 0 ? limit : 0.0;
+}
+
 void FilterDialog::setup_spinBox_strength()
 {
-    double minimum = 0.0;
-    double maximum = 0.0;
-    if (io->get_double(&minimum, "filter6d limit strength_min") != 0)
-        minimum = 0.0;
-    if (io->get_double(&maximum, "filter6d limit strength_max") != 0)
-        maximum = 0.0;
+    const double minimum = read_limit("filter6d limit strength_min");
+    const double maximum = read_limit("filter6d limit strength_max");
     ui->doubleSpinBox_strength->setRange(minimum, maximum);
 }
 
@@ -437,12 +441,8 @@ void FilterDialog::on_doubleSpinBox_strength_editingFinished()
 
 void FilterDialog::setup_spinBox_prediction()
 {
-    double minimum = 0.0;
-    double maximum = 0.0;
-    if (io->get_double(&minimum, "filter6d limit prediction_min") != 0)
-        minimum = 0.0;
-    if (io->get_double(&maximum, "filter6d limit prediction_max") != 0)
-        maximum = 0.0;
+    const double minimum = read_limit("filter6d limit prediction_min");
+    const double maximum = read_limit("filter6d limit prediction_max");
     ui->spinBox_prediction->setRange(to_ms(minimum), to_ms(maximum));
 }
 

@@ -40,8 +40,10 @@ private slots:
     void on_pushButton_exit_clicked();
 
 private:
-    // Presets and modes are offered per body by the same four queries.
+    // Presets and modes are offered, read and set per body alike.
     struct ChoiceQueries;
+    static const ChoiceQueries Presets;
+    static const ChoiceQueries Modes;
 
     bool filter_available(int type);
     bool getConfigLocked();
@@ -55,6 +57,8 @@ private:
     void update_checkbox_active();
     void update_combobox_preset_list_02(const QString& body);
     void update_combobox_preset();
+    // A limit the controller cannot give is 0.
+    double read_limit(const char* path);
     void setup_spinBox_strength();
     void update_doubleSpinBox_strength();
     void activate_controls_strength();
@@ -64,8 +68,8 @@ private:
     void update_comboBox_mode();
 
     void fill_choices(QComboBox* combo, const ChoiceQueries& queries, const QString& body);
-    void select_current_choice(QComboBox* combo, const char* path, const char* failure);
-    bool set_choice(QComboBox* combo, const char* path, const char* failure);
+    void select_current_choice(QComboBox* combo, const ChoiceQueries& queries);
+    bool set_choice(QComboBox* combo, const ChoiceQueries& queries);
     QString body() const;
     bool active_and_custom() const;
     void report(const QString& text) const;
@@ -74,10 +78,8 @@ private:
     IOManager* io;
     BackendVersions* backend_versions;
 
-    int dialog_type = StandardBodies;
     bool presets_and_modes = false;        // the controller knows them
     QMap<QString, bool> body_has_sensor;   // "standard b03" -> carries one
-    bool config_locked = false;
     // Off while the dialog fills its widgets, so that showing the
     // controller's values never writes them back.
     bool react = false;

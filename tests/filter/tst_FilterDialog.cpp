@@ -139,35 +139,35 @@ void tst_FilterDialog::closed_data()
 {
     QTest::addColumn<int>("minor");
     QTest::addColumn<int>("type");
-    QTest::addColumn<QByteArray>("available");
     QTest::addColumn<QByteArray>("changeable");
     QTest::addColumn<Lines>("lines");
     QTest::addColumn<QString>("text");
+    QTest::addColumn<bool>("lockIcon");
     const Lines lock = {"config is_changeable"}, standard = Lines{"filter6d available standard"} + lock;
     const Lines wand = Lines{"filter6d available wand"} + lock;
     const QString bodies = " for standard bodies", wands = " for wands";
-    QTest::newRow("locked, standard bodies") << 21 << 0 << QByteArray("yes") << QByteArray("no") << standard << bodies;
-    QTest::newRow("locked, wands") << 21 << 1 << QByteArray("yes") << QByteArray("no") << wand << wands;
-    QTest::newRow("unknown body type") << 21 << 2 << QByteArray("yes") << QByteArray("yes") << lock << "";
-    QTest::newRow("controller 1.11") << 11 << 0 << QByteArray("yes") << QByteArray("yes") << lock << bodies;
-    QTest::newRow("controller 1.8, never locked") << 8 << 0 << QByteArray() << QByteArray() << Lines() << bodies;
+    QTest::newRow("locked, standard bodies") << 21 << 0 << QByteArray("no") << standard << bodies << true;
+    QTest::newRow("locked, wands") << 21 << 1 << QByteArray("no") << wand << wands << true;
+    QTest::newRow("unknown body type") << 21 << 2 << QByteArray("yes") << lock << "" << false;
+    QTest::newRow("controller 1.11") << 11 << 0 << QByteArray("yes") << lock << bodies << false;
+    QTest::newRow("controller 1.8, never locked") << 8 << 0 << QByteArray("no") << Lines() << bodies << false;
 }
 
 void tst_FilterDialog::closed()
 {
     QFETCH(int, minor);
     QFETCH(int, type);
-    QFETCH(QByteArray, available);
     QFETCH(QByteArray, changeable);
     QFETCH(Lines, lines);
     QFETCH(QString, text);
+    QFETCH(bool, lockIcon);
     versions.minor = minor;
-    fake->reply(type == 1 ? "filter6d available wand" : "filter6d available standard", available);
     fake->reply("config is_changeable", changeable);
     open([&] {
         QCOMPARE(enabled(), QStringList());
         QCOMPARE(w<QLabel>("label_error")->text(), "<b><font color=red>6DOF filter" + text + " not available</font></b>");
         QVERIFY(w("pushButton_help")->isEnabled());
+        QCOMPARE(!dlg->windowIcon().isNull(), lockIcon);
     }, type);
     QCOMPARE(fake->lines(), lines);
 }
