@@ -9,9 +9,13 @@
 #include <functional>
 
 #include "FakeController.h"
+#include "HostHarness.h"
 #include "ModalDialogHelper.h"
 #include "filter/FilterDialog.h"
+#include "host/InProcessLink.h"
+#include "host/MainWindow.h"
 #include "module/BackendVersions.h"
+#include "simulator/SimulatedController.h"
 
 using Lines = QList<QByteArray>;
 
@@ -50,7 +54,8 @@ body filter6d_strength standard b03|filter6d limit prediction_min|filter6d limit
 body filter6d_prediction standard b03|filter6d number_of_modes|filter6d mode_id t01
 body filter6d_mode_available standard b03 mode6d_standard|filter6d mode_desc mode6d_standard|filter6d mode_id t02
 body filter6d_mode_available standard b03 mode6d_smooth|filter6d mode_desc mode6d_smooth|filter6d mode_id t03
-body filter6d_mode_available standard b03 mode6d_hybrid|body filter6d_mode standard b03)").replace('\n', '|').split('|');
+body filter6d_mode_available standard b03 mode6d_hybrid|body filter6d_mode standard b03)")
+                          .replace('\n', '|').split('|');
 
 const QStringList AllControls = {"body", "active", "preset", "strength", "prediction", "mode"};
 
@@ -68,8 +73,8 @@ private slots:
     void openingAndBodyChange();
     void writes_data();
     void writes();
-    void readFailures_data();
     void readFailures();
+    void simulatorKeepsWhatIsChosen();
 
 private:
     template <class T = QWidget>
@@ -88,9 +93,7 @@ void tst_FilterDialog::init()
 {
     fake = new FakeController;
     fake->set_stateful(true);
-    versions = BackendVersions();
-    versions.major = 1;
-    versions.minor = 21;
+    versions = BackendVersions{0, 0, 0, 1, 21};   // controller 1.21
     dlg = new FilterDialog(fake, nullptr, &versions);
     QByteArray script = Script + ('|' + QByteArray(BodyScript).replace(" B", " standard b01"));
     script += '|' + QByteArray(BodyScript).replace(" B", " standard b03");
@@ -165,7 +168,8 @@ void tst_FilterDialog::closed()
     fake->reply("config is_changeable", changeable);
     open([&] {
         QCOMPARE(enabled(), QStringList());
-        QCOMPARE(w<QLabel>("label_error")->text(), "<b><font color=red>6DOF filter" + text + " not available</font></b>");
+        QCOMPARE(w<QLabel>("label_error")->text(),
+                 "<b><font color=red>6DOF filter" + text + " not available</font></b>");
         QVERIFY(w("pushButton_help")->isEnabled());
         QCOMPARE(!dlg->windowIcon().isNull(), lockIcon);
     }, type);
@@ -263,31 +267,54 @@ void tst_FilterDialog::writes()
     QCOMPARE(fake->message_texts(), message.isEmpty() ? QStringList() : QStringList(message));
 }
 
-void tst_FilterDialog::readFailures_data()
-{
-    QTest::addColumn<QByteArray>("line");
-    QTest::addColumn<QString>("message");
-    QTest::addColumn<QString>("preset");   // what the preset combo shows
-    auto row = [](const char* line, const QString& what, const QString& preset) {
-        QTest::newRow(line) << QByteArray(line) << "Error: Unable to get " + what << preset;
-    };
-    row("body number_of_bodies standard", "number of bodies", "");
-    row("body calibrated standard b01", "calibration info of body", "custom");
-    row("filter6d preset_id t02", "filter 6d preset id", "");
-    row("filter6d preset_desc preset6d_custom", "filter 6d preset description", "preset6d_custom");
-    row("body filter6d_preset standard b03", "filter 6d preset for body standard b03", "");
-    row("body filter6d_prediction standard b03", "filter 6d prediction for body standard b03", "custom");
-    row("body filter6d_mode_available standard b03 mode6d_smooth", "filter 6d mode id available", "custom");
-}
-
 void tst_FilterDialog::readFailures()
 {
-    QFETCH(QByteArray, line);
-    QFETCH(QString, message);
-    QFETCH(QString, preset);
-    fake->fail(line);
-    open([&] { QCOMPARE(w<QComboBox>("comboBox_preset")->currentText(), preset); });
-    QCOMPARE(fake->message_texts(), QStringList(message));
+    for (const QByteArray line : {"filter6d preset_id t01", "filter6d preset_desc preset6d_custom",
+                                  "body filter6d_strength standard b03", "body filter6d_mode standard b03"})
+        fake->fail(line);
+    open([&] {
+        QCOMPARE(items("comboBox_preset"), QStringList({"preset6d_custom", "hybrid custom"}));
+        QCOMPARE(w<QComboBox>("comboBox_preset")->currentText(), "preset6d_custom");
+        QCOMPARE(w<QDoubleSpinBox>("doubleSpinBox_strength")->value(), 0.01);   // the minimum: nothing was read
+        QCOMPARE(w<QComboBox>("comboBox_mode")->currentIndex(), -1);
+        QCOMPARE(enabled(), AllControls);
+    });
+    QCOMPARE(fake->message_texts(), QStringList({"Error: Unable to get filter 6d preset id",
+                                                 "Error: Unable to get filter 6d preset description",
+                                                 "Error: Unable to get filter 6d strength for body standard b03",
+                                                 "Error: Unable to get filter 6d mode for body standard b03"}));
+}
+
+void tst_FilterDialog::simulatorKeepsWhatIsChosen()
+{
+    HostHarness::Options options;
+    options.plugin_file = QStringLiteral(PLUGIN_FILE);
+    HostHarness host(options);
+    QVERIFY2(host.ok(), qPrintable(host.error()));
+    const int start_messages = host.messages().size();   // the host's own start-up notes
+    delete dlg;
+    dlg = new FilterDialog(host.link(), nullptr, host.window()->backend_versions());
+    QString help;
+    open([&] {   // body 03, "head", uses the medium prediction preset
+        auto* presets = w<QComboBox>("comboBox_preset");
+        QCOMPARE(presets->currentText(), "medium prediction");
+        presets->setCurrentIndex(presets->findText("custom"));
+        w<QSpinBox>("spinBox_prediction")->setValue(40);
+        QTest::keyClick(w("spinBox_prediction"), Qt::Key_Return);
+        ModalDialogHelper::when_active("FilterHelp", [&](QWidget* box) {
+            help = box->windowTitle();
+            box->findChild<QAbstractButton*>("pushButton_exit")->click();
+        });
+        w<QAbstractButton>("pushButton_help")->click();
+    });
+    // There is no wand 03: the first one is shown.
+    open([&] { QCOMPARE(w<QComboBox>("comboBox_body")->currentText(), "pointer (Wand body 01)"); }, 1);
+    QCOMPARE(help, "Help Filter");
+    for (const QByteArray path : {"body filter6d_preset standard b03 preset6d_custom",
+                                  "body filter6d_prediction standard b03 0.04"})
+        QCOMPARE(host.simulator()->handle("norvane get " + path.left(path.lastIndexOf(' '))).line,
+                 "norvane set " + path);
+    QCOMPARE(host.messages().mid(start_messages), QStringList());
 }
 
 QTEST_MAIN(tst_FilterDialog)
