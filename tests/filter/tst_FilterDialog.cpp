@@ -93,7 +93,9 @@ void tst_FilterDialog::init()
 {
     fake = new FakeController;
     fake->set_stateful(true);
-    versions = BackendVersions{0, 0, 0, 1, 21};   // controller 1.21
+    versions = BackendVersions();
+    versions.major = 1;
+    versions.minor = 21;
     dlg = new FilterDialog(fake, nullptr, &versions);
     QByteArray script = Script + ('|' + QByteArray(BodyScript).replace(" B", " standard b01"));
     script += '|' + QByteArray(BodyScript).replace(" B", " standard b03");
