@@ -408,13 +408,29 @@ void FilterDialog::setup_spinBox_strength()
     ui->doubleSpinBox_strength->setRange(minimum, maximum);
 }
 
+bool FilterDialog::read_real(const char* path, const char* failure, double* value)
+{
+    const QByteArray address = ControllerText::latin(body());
+    if (io->get_double(value, path, address.constData()) == 0)
+        return true;
+    report(tr(failure).arg(body()));
+    return false;
+}
+
+bool FilterDialog::write_real(const char* path, double value, const char* failure)
+{
+    const QByteArray address = ControllerText::latin(body());
+    if (io->set_value(path, address.constData(), value) == 0)
+        return true;
+    report(tr(failure).arg(body()));
+    return false;
+}
+
 void FilterDialog::update_doubleSpinBox_strength()
 {
     double strength = 0.0;
-    const QByteArray address = ControllerText::latin(body());
-    if (io->get_double(&strength, "body filter6d_strength %s", address.constData()) != 0)
-        report(tr("Error: Unable to get filter 6d strength for body %1").arg(body()));
-    else
+    if (read_real("body filter6d_strength %s", QT_TR_NOOP("Error: Unable to get filter 6d strength for body %1"),
+                  &strength))
         ui->doubleSpinBox_strength->setValue(strength);
     strength_shown = ui->doubleSpinBox_strength->value();
     activate_controls_strength();
@@ -429,14 +445,10 @@ void FilterDialog::activate_controls_strength()
 void FilterDialog::on_doubleSpinBox_strength_editingFinished()
 {
     const double strength = ui->doubleSpinBox_strength->value();
-    if (!react || strength == strength_shown)
-        return;
-    const QByteArray address = ControllerText::latin(body());
-    if (io->set_value("body filter6d_strength %s %f", address.constData(), strength) != 0) {
-        report(tr("Error: Unable to set filter 6d strength for body %1").arg(body()));
-        return;
-    }
-    strength_shown = strength;
+    if (react && strength != strength_shown
+        && write_real("body filter6d_strength %s %f", strength,
+                      QT_TR_NOOP("Error: Unable to set filter 6d strength for body %1")))
+        strength_shown = strength;
 }
 
 void FilterDialog::setup_spinBox_prediction()
@@ -449,10 +461,8 @@ void FilterDialog::setup_spinBox_prediction()
 void FilterDialog::update_spinBox_prediction()
 {
     double prediction = 0.0;
-    const QByteArray address = ControllerText::latin(body());
-    if (io->get_double(&prediction, "body filter6d_prediction %s", address.constData()) != 0)
-        report(tr("Error: Unable to get filter 6d prediction for body %1").arg(body()));
-    else
+    if (read_real("body filter6d_prediction %s", QT_TR_NOOP("Error: Unable to get filter 6d prediction for body %1"),
+                  &prediction))
         ui->spinBox_prediction->setValue(to_ms(prediction));
     prediction_shown = ui->spinBox_prediction->value();
     ui->spinBox_prediction->setEnabled(active_and_custom());
@@ -461,14 +471,10 @@ void FilterDialog::update_spinBox_prediction()
 void FilterDialog::on_spinBox_prediction_editingFinished()
 {
     const int prediction = ui->spinBox_prediction->value();
-    if (!react || prediction == prediction_shown)
-        return;
-    const QByteArray address = ControllerText::latin(body());
-    if (io->set_value("body filter6d_prediction %s %f", address.constData(), prediction / MsPerSecond) != 0) {
-        report(tr("Error: Unable to set filter 6d prediction for body %1").arg(body()));
-        return;
-    }
-    prediction_shown = prediction;
+    if (react && prediction != prediction_shown
+        && write_real("body filter6d_prediction %s %f", prediction / MsPerSecond,
+                      QT_TR_NOOP("Error: Unable to set filter 6d prediction for body %1")))
+        prediction_shown = prediction;
 }
 
 // --- buttons ---------------------------------------------------------------------

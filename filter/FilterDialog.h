@@ -57,6 +57,9 @@ private:
     void update_checkbox_active();
     void update_combobox_preset_list_02(const QString& body);
     void update_combobox_preset();
+    // The body's strength or prediction; a failure is reported with the body.
+    bool read_real(const char* path, const char* failure, double* value);
+    bool write_real(const char* path, double value, const char* failure);
     // A limit the controller cannot give is 0.
     double read_limit(const char* path);
     void setup_spinBox_strength();
