@@ -218,9 +218,8 @@ void FilterDialog::update_comboBox_body(int type, int row)
         bodies->addItem(text, address);
     }
     const QString requested = QLatin1String(kind) + QStringLiteral(" b%1").arg(row + 1, 2, 10, QLatin1Char('0'));
-    const int index = bodies->findData(requested);
-    if (index >= 0)
-        bodies->setCurrentIndex(index);
+    // A body that is not offered (no longer calibrated) leaves the first one shown.
+    bodies->setCurrentIndex(qMax(0, bodies->findData(requested)));
 }
 
 void FilterDialog::fill_body(bool with_limits)

@@ -144,34 +144,40 @@ void tst_FilterDialog::closed_data()
 {
     QTest::addColumn<int>("minor");
     QTest::addColumn<int>("type");
-    QTest::addColumn<QByteArray>("changeable");
+    QTest::addColumn<QByteArray>("reply");   // "line=answer"
     QTest::addColumn<Lines>("lines");
     QTest::addColumn<QString>("text");
     QTest::addColumn<bool>("lockIcon");
     const Lines lock = {"config is_changeable"}, standard = Lines{"filter6d available standard"} + lock;
     const Lines wand = Lines{"filter6d available wand"} + lock;
-    const QString bodies = " for standard bodies", wands = " for wands";
-    QTest::newRow("locked, standard bodies") << 21 << 0 << QByteArray("no") << standard << bodies << true;
-    QTest::newRow("locked, wands") << 21 << 1 << QByteArray("no") << wand << wands << true;
-    QTest::newRow("unknown body type") << 21 << 2 << QByteArray("yes") << lock << "" << false;
-    QTest::newRow("controller 1.11") << 11 << 0 << QByteArray("yes") << lock << bodies << false;
-    QTest::newRow("controller 1.8, never locked") << 8 << 0 << QByteArray("no") << Lines() << bodies << false;
+    const QString bodies = "6DOF filter for standard bodies not available";
+    QTest::newRow("locked, standard bodies") << 21 << 0 << QByteArray("config is_changeable=no") << standard
+                                             << bodies << true;
+    QTest::newRow("locked, wands") << 21 << 1 << QByteArray("config is_changeable=no") << wand
+                                   << "6DOF filter for wands not available" << true;
+    QTest::newRow("unknown body type") << 21 << 2 << QByteArray("config is_changeable=yes") << lock
+                                       << "6DOF filter not available" << false;
+    QTest::newRow("controller 1.11") << 11 << 0 << QByteArray("config is_changeable=yes") << lock << bodies << false;
+    QTest::newRow("controller 1.8, never locked") << 8 << 0 << QByteArray("config is_changeable=no") << Lines()
+                                                  << bodies << false;
+    QTest::newRow("no calibrated body") << 21 << 0 << QByteArray("body number_of_bodies standard=0")
+                                        << standard + Lines{"body number_of_bodies standard"}
+                                        << "No standard body is calibrated" << false;
 }
 
 void tst_FilterDialog::closed()
 {
     QFETCH(int, minor);
     QFETCH(int, type);
-    QFETCH(QByteArray, changeable);
+    QFETCH(QByteArray, reply);
     QFETCH(Lines, lines);
     QFETCH(QString, text);
     QFETCH(bool, lockIcon);
     versions.minor = minor;
-    fake->reply("config is_changeable", changeable);
+    fake->reply(reply.left(reply.indexOf('=')), reply.mid(reply.indexOf('=') + 1));
     open([&] {
         QCOMPARE(enabled(), QStringList());
-        QCOMPARE(w<QLabel>("label_error")->text(),
-                 "<b><font color=red>6DOF filter" + text + " not available</font></b>");
+        QCOMPARE(w<QLabel>("label_error")->text(), "<b><font color=red>" + text + "</font></b>");
         QVERIFY(w("pushButton_help")->isEnabled());
         QCOMPARE(!dlg->windowIcon().isNull(), lockIcon);
     }, type);
@@ -272,18 +278,22 @@ void tst_FilterDialog::writes()
 void tst_FilterDialog::readFailures()
 {
     for (const QByteArray line : {"filter6d preset_id t01", "filter6d preset_desc preset6d_custom",
-                                  "body filter6d_strength standard b03", "body filter6d_mode standard b03"})
+                                  "body filter6d_preset_available standard b03 preset6d_hybrid_custom",
+                                  "body filter6d_strength standard b03", "filter6d number_of_modes",
+                                  "body filter6d_mode standard b03"})
         fake->fail(line);
     open([&] {
-        QCOMPARE(items("comboBox_preset"), QStringList({"preset6d_custom", "hybrid custom"}));
+        QCOMPARE(items("comboBox_preset"), QStringList({"preset6d_custom"}));
         QCOMPARE(w<QComboBox>("comboBox_preset")->currentText(), "preset6d_custom");
         QCOMPARE(w<QDoubleSpinBox>("doubleSpinBox_strength")->value(), 0.01);   // the minimum: nothing was read
-        QCOMPARE(w<QComboBox>("comboBox_mode")->currentIndex(), -1);
+        QCOMPARE(items("comboBox_mode"), QStringList());
         QCOMPARE(enabled(), AllControls);
     });
     QCOMPARE(fake->message_texts(), QStringList({"Error: Unable to get filter 6d preset id",
                                                  "Error: Unable to get filter 6d preset description",
+                                                 "Error: Unable to get filter 6d preset id available",
                                                  "Error: Unable to get filter 6d strength for body standard b03",
+                                                 "Error: Unable to get number of filter 6d modes",
                                                  "Error: Unable to get filter 6d mode for body standard b03"}));
 }
 
