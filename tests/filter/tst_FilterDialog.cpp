@@ -155,6 +155,8 @@ void tst_FilterDialog::closed_data()
                                              << bodies << true;
     QTest::newRow("locked, wands") << 21 << 1 << QByteArray("config is_changeable=no") << wand
                                    << "6DOF filter for wands not available" << true;
+    QTest::newRow("no filter for wands") << 21 << 1 << QByteArray("filter6d available wand=no") << wand
+                                         << "6DOF filter for wands not available" << false;
     QTest::newRow("unknown body type") << 21 << 2 << QByteArray("config is_changeable=yes") << lock
                                        << "6DOF filter not available" << false;
     QTest::newRow("controller 1.8, never locked") << 8 << 0 << QByteArray("config is_changeable=no") << Lines()
