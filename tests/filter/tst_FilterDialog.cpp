@@ -1,0 +1,328 @@
+#include <QtTest>
+
+#include <QCheckBox>
+#include <QComboBox>
+#include <QDoubleSpinBox>
+#include <QLabel>
+#include <QSpinBox>
+
+#include <functional>
+
+#include "FakeController.h"
+#include "HostHarness.h"
+#include "ModalDialogHelper.h"
+#include "filter/FilterDialog.h"
+#include "host/InProcessLink.h"
+#include "host/MainWindow.h"
+#include "module/BackendVersions.h"
+#include "simulator/SimulatedController.h"
+
+using Lines = QList<QByteArray>;
+
+namespace {
+
+// "line=answer|...": bodies 01 (with a sensor) and 03 are calibrated, 02 is not.
+const char Script[] = R"(filter6d available standard=yes|filter6d available wand=yes|config is_changeable=yes
+body number_of_bodies standard=3|body calibrated standard b01=yes|body desc standard b01="left hand"
+body inertial_sensor standard b01=NRV IMU3 '10231'|body calibrated standard b02=no|body calibrated standard b03=yes
+body inertial_sensor standard b03=none|body desc standard b03=""|filter6d number_of_presets=3
+filter6d preset_id t01=preset6d_default|filter6d preset_id t02=preset6d_custom|filter6d number_of_modes=3
+filter6d preset_id t03=preset6d_hybrid_custom|filter6d preset_desc preset6d_default="default"
+filter6d preset_desc preset6d_custom="custom"|filter6d preset_desc preset6d_hybrid_custom="hybrid custom"
+filter6d mode_id t01=mode6d_standard|filter6d mode_id t02=mode6d_smooth|filter6d mode_id t03=mode6d_hybrid
+filter6d mode_desc mode6d_standard="standard"|filter6d mode_desc mode6d_smooth="smooth"
+filter6d limit strength_min=0.01|filter6d limit strength_max=0.99|filter6d limit prediction_min=0.005
+filter6d limit prediction_max=0.2)";
+
+// Each body's filter: on, custom preset, 0.35, 15.9 ms, smooth; no hybrid mode offered.
+const char BodyScript[] = R"(body filter6d_enabled B=yes|body filter6d_preset B=preset6d_custom
+body filter6d_strength B=0.35|body filter6d_prediction B=0.0159|body filter6d_mode B=mode6d_smooth
+body filter6d_preset_available B preset6d_default=yes|body filter6d_preset_available B preset6d_custom=yes
+body filter6d_preset_available B preset6d_hybrid_custom=yes|body filter6d_mode_available B mode6d_standard=yes
+body filter6d_mode_available B mode6d_smooth=yes|body filter6d_mode_available B mode6d_hybrid=no)";
+
+const Lines Opening = QByteArray(R"(filter6d available standard|config is_changeable|body number_of_bodies standard
+body calibrated standard b01|body inertial_sensor standard b01|body desc standard b01|body calibrated standard b02
+body calibrated standard b03|body inertial_sensor standard b03|body desc standard b03
+body filter6d_enabled standard b03|filter6d number_of_presets|filter6d preset_id t01
+body filter6d_preset_available standard b03 preset6d_default|filter6d preset_desc preset6d_default
+filter6d preset_id t02|body filter6d_preset_available standard b03 preset6d_custom
+filter6d preset_desc preset6d_custom|filter6d preset_id t03
+body filter6d_preset_available standard b03 preset6d_hybrid_custom|filter6d preset_desc preset6d_hybrid_custom
+body filter6d_preset standard b03|filter6d limit strength_min|filter6d limit strength_max
+body filter6d_strength standard b03|filter6d limit prediction_min|filter6d limit prediction_max
+body filter6d_prediction standard b03|filter6d number_of_modes|filter6d mode_id t01
+body filter6d_mode_available standard b03 mode6d_standard|filter6d mode_desc mode6d_standard|filter6d mode_id t02
+body filter6d_mode_available standard b03 mode6d_smooth|filter6d mode_desc mode6d_smooth|filter6d mode_id t03
+body filter6d_mode_available standard b03 mode6d_hybrid|body filter6d_mode standard b03)")
+                          .replace('\n', '|').split('|');
+
+const QStringList AllControls = {"body", "active", "preset", "strength", "prediction", "mode"};
+
+} // namespace
+
+class tst_FilterDialog : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void init();
+    void cleanup();
+    void closed_data();
+    void closed();
+    void openingAndBodyChange();
+    void writes_data();
+    void writes();
+    void readFailures();
+    void simulatorKeepsWhatIsChosen();
+
+private:
+    template <class T = QWidget>
+    T* w(const char* name) const { return dlg->findChild<T*>(QLatin1String(name)); }
+    // Opens on body row 2 (body 03), runs `steps` inside the modal loop, exits.
+    void open(const std::function<void()>& steps, int type = 0);
+    QStringList enabled() const;
+    QStringList items(const char* combo) const;
+
+    FakeController* fake = nullptr;
+    BackendVersions versions;
+    FilterDialog* dlg = nullptr;
+};
+
+void tst_FilterDialog::init()
+{
+    fake = new FakeController;
+    fake->set_stateful(true);
+    versions = BackendVersions();
+    versions.major = 1;
+    versions.minor = 21;
+    dlg = new FilterDialog(fake, nullptr, &versions);
+    QByteArray script = Script + ('|' + QByteArray(BodyScript).replace(" B", " standard b01"));
+    script += '|' + QByteArray(BodyScript).replace(" B", " standard b03");
+    for (const QByteArray& entry : script.replace('\n', '|').split('|'))
+        fake->reply(entry.left(entry.indexOf('=')), entry.mid(entry.indexOf('=') + 1));
+}
+
+void tst_FilterDialog::cleanup()
+{
+    delete dlg;
+    QCOMPARE(fake->unexpected(), Lines());
+    delete fake;
+    QCOMPARE(ModalDialogHelper::pending(), 0);
+    ModalDialogHelper::clear_pending();
+    QCOMPARE(ModalDialogHelper::leaked_windows(), QStringList());
+}
+
+void tst_FilterDialog::open(const std::function<void()>& steps, int type)
+{
+    ModalDialogHelper::when_active("FilterDialog", [this, steps](QWidget*) {
+        steps();
+        w<QAbstractButton>("pushButton_exit")->click();
+    });
+    QCOMPARE(dlg->update_and_exec(type, 2), int(QDialog::Accepted));
+}
+
+QStringList tst_FilterDialog::enabled() const
+{
+    QStringList names;
+    for (const QString& name : AllControls)
+        for (QWidget* control : dlg->findChildren<QWidget*>(QRegularExpression("^[a-zA-Z]+_" + name + '$')))
+            if (control->isEnabled() && !control->inherits("QLabel"))
+                names << name;
+    return names;
+}
+
+QStringList tst_FilterDialog::items(const char* combo) const
+{
+    QStringList texts;
+    for (int i = 0; i < w<QComboBox>(combo)->count(); ++i)
+        texts << w<QComboBox>(combo)->itemText(i);
+    return texts;
+}
+
+void tst_FilterDialog::closed_data()
+{
+    QTest::addColumn<int>("minor");
+    QTest::addColumn<int>("type");
+    QTest::addColumn<QByteArray>("reply");   // "line=answer"
+    QTest::addColumn<Lines>("lines");
+    QTest::addColumn<QString>("text");
+    QTest::addColumn<bool>("lockIcon");
+    const Lines lock = {"config is_changeable"}, standard = Lines{"filter6d available standard"} + lock;
+    const Lines wand = Lines{"filter6d available wand"} + lock;
+    const QString bodies = "6DOF filter for standard bodies not available";
+    QTest::newRow("locked, standard bodies") << 21 << 0 << QByteArray("config is_changeable=no") << standard
+                                             << bodies << true;
+    QTest::newRow("locked, wands") << 21 << 1 << QByteArray("config is_changeable=no") << wand
+                                   << "6DOF filter for wands not available" << true;
+    QTest::newRow("no filter for wands") << 21 << 1 << QByteArray("filter6d available wand=no") << wand
+                                         << "6DOF filter for wands not available" << false;
+    QTest::newRow("unknown body type") << 21 << 2 << QByteArray("config is_changeable=yes") << lock
+                                       << "6DOF filter not available" << false;
+    QTest::newRow("controller 1.8, never locked") << 8 << 0 << QByteArray("config is_changeable=no") << Lines()
+                                                  << bodies << false;
+    QTest::newRow("no calibrated body") << 21 << 0 << QByteArray("body number_of_bodies standard=0")
+        << standard + Lines{"body number_of_bodies standard"} << "No standard body is calibrated" << false;
+}
+
+void tst_FilterDialog::closed()
+{
+    QFETCH(int, minor);
+    QFETCH(int, type);
+    QFETCH(QByteArray, reply);
+    QFETCH(Lines, lines);
+    QFETCH(QString, text);
+    QFETCH(bool, lockIcon);
+    versions.minor = minor;
+    fake->reply(reply.left(reply.indexOf('=')), reply.mid(reply.indexOf('=') + 1));
+    open([&] {
+        QCOMPARE(enabled(), QStringList());
+        QCOMPARE(w<QLabel>("label_error")->text(), "<b><font color=red>" + text + "</font></b>");
+        QVERIFY(w("pushButton_help")->isEnabled());
+        QCOMPARE(!dlg->windowIcon().isNull(), lockIcon);
+    }, type);
+    QCOMPARE(fake->lines(), lines);
+}
+
+void tst_FilterDialog::openingAndBodyChange()
+{
+    Lines refill;
+    open([&] {
+        QCOMPARE(items("comboBox_body"), QStringList({"left hand (standard body 01)", "standard body 03"}));
+        QCOMPARE(w<QComboBox>("comboBox_body")->currentData().toString(), "standard b03");
+        QVERIFY(w("checkBox_active")->isVisible() && w<QCheckBox>("checkBox_active")->isChecked());
+        QCOMPARE(items("comboBox_preset"), QStringList({"default", "custom", "hybrid custom"}));
+        QCOMPARE(w<QComboBox>("comboBox_preset")->currentText(), "custom");
+        QCOMPARE(w<QDoubleSpinBox>("doubleSpinBox_strength")->value(), 0.35);
+        auto* ms = w<QSpinBox>("spinBox_prediction");
+        QCOMPARE(QList<int>({ms->minimum(), ms->maximum(), ms->value()}), QList<int>({5, 200, 15}));
+        QCOMPARE(items("comboBox_mode"), QStringList({"standard", "smooth"}));
+        QCOMPARE(w<QComboBox>("comboBox_mode")->currentText(), "smooth");
+        QCOMPARE(enabled(), AllControls);
+        QCOMPARE(w<QLabel>("label_error")->text(), QString());
+        ms->setFocus();   // leaving untouched boxes writes nothing
+        w("doubleSpinBox_strength")->setFocus();
+        QCOMPARE(fake->lines(), Opening);
+        fake->clear_log();
+        w<QComboBox>("comboBox_body")->setCurrentIndex(0);
+        QVERIFY(!w("checkBox_active")->isVisible());   // body 01 carries a sensor
+        refill = fake->lines();
+    });
+    Lines expected;
+    for (const QByteArray& line : Opening.mid(Opening.indexOf("body filter6d_enabled standard b03")))
+        if (!line.startsWith("filter6d limit"))
+            expected << QByteArray(line).replace("b03", "b01");
+    QCOMPARE(refill, expected);
+    QCOMPARE(fake->message_texts(), QStringList());
+}
+
+void tst_FilterDialog::writes_data()
+{
+    QTest::addColumn<QByteArray>("widget");
+    QTest::addColumn<QVariant>("value");
+    QTest::addColumn<Lines>("lines");
+    QTest::addColumn<QStringList>("enabledAfter");
+    QTest::addColumn<QString>("message");   // empty: the controller accepts the first line
+    const Lines refill = {"body filter6d_strength standard b03", "body filter6d_prediction standard b03",
+                          "body filter6d_mode standard b03"};
+    const QStringList fixed = {"body", "active", "preset"};
+    auto rows = [&](const char* name, const char* widget, const QVariant& value, const QByteArray& line,
+                    const Lines& then, const QStringList& after, const QString& failure) {
+        QTest::newRow(name) << QByteArray(widget) << value << Lines{line} + then << after << QString();
+        QTest::addRow("%s, refused", name) << QByteArray(widget) << value << Lines{line} << AllControls
+                                           << "Error: Unable to " + failure + " for body standard b03";
+    };
+    rows("prediction 40 ms", "spinBox_prediction", 40, "body filter6d_prediction standard b03 0.040000", {},
+         AllControls, "set filter 6d prediction");
+    rows("strength 0.5", "doubleSpinBox_strength", 0.5, "body filter6d_strength standard b03 0.500000", {},
+         AllControls, "set filter 6d strength");
+    rows("mode", "comboBox_mode", "mode6d_standard", "body filter6d_mode standard b03 mode6d_standard", {},
+         AllControls, "set filter 6d mode");
+    rows("hybrid custom preset", "comboBox_preset", "preset6d_hybrid_custom",
+         "body filter6d_preset standard b03 preset6d_hybrid_custom", refill, fixed + QStringList{"prediction", "mode"},
+         "set filter 6d preset");
+    rows("standard preset", "comboBox_preset", "preset6d_default", "body filter6d_preset standard b03 preset6d_default",
+         refill, fixed, "set filter 6d preset");
+    rows("filter off", "checkBox_active", false, "body filter6d_enabled standard b03 no",
+         Lines{"body filter6d_preset standard b03"} + refill, fixed, "activate/deactivate filter 6d");
+}
+
+void tst_FilterDialog::writes()
+{
+    QFETCH(QByteArray, widget);
+    QFETCH(QVariant, value);
+    QFETCH(Lines, lines);
+    QFETCH(QStringList, enabledAfter);
+    QFETCH(QString, message);
+    if (!message.isEmpty())
+        fake->fail(lines.first());
+    open([&] {
+        fake->clear_log();
+        QWidget* control = w(widget.constData());
+        auto* combo = qobject_cast<QComboBox*>(control);
+        const char* property = control->inherits("QCheckBox") ? "checked" : "value";
+        if (combo)
+            combo->setCurrentIndex(combo->findData(value));
+        else if (auto* box = qobject_cast<QCheckBox*>(control))
+            box->click();
+        else if (control->setProperty(property, value))
+            QMetaObject::invokeMethod(control, "editingFinished");
+        QCOMPARE(fake->lines(), lines);
+        QCOMPARE(enabled(), enabledAfter);
+        // Accepted or not, the widget shows what the user chose.
+        QCOMPARE(combo ? combo->currentData() : control->property(property), value);
+    });
+    QCOMPARE(fake->message_texts(), message.isEmpty() ? QStringList() : QStringList(message));
+}
+
+void tst_FilterDialog::readFailures()
+{
+    for (const QByteArray line : {"filter6d preset_id t01", "filter6d preset_desc preset6d_custom",
+                                  "body filter6d_preset_available standard b03 preset6d_hybrid_custom",
+                                  "filter6d number_of_modes",
+                                  "body filter6d_mode standard b03"})
+        fake->fail(line);
+    open([&] {
+        QCOMPARE(items("comboBox_preset"), QStringList({"preset6d_custom"}));
+        QCOMPARE(w<QComboBox>("comboBox_preset")->currentText(), "preset6d_custom");
+        QCOMPARE(items("comboBox_mode"), QStringList());
+        QCOMPARE(enabled(), AllControls);
+    });
+    QCOMPARE(fake->message_texts(), QStringList({"Error: Unable to get filter 6d preset id",
+                                                 "Error: Unable to get filter 6d preset description",
+                                                 "Error: Unable to get filter 6d preset id available",
+                                                 "Error: Unable to get number of filter 6d modes",
+                                                 "Error: Unable to get filter 6d mode for body standard b03"}));
+}
+
+void tst_FilterDialog::simulatorKeepsWhatIsChosen()
+{
+    HostHarness::Options options;
+    options.plugin_file = QStringLiteral(PLUGIN_FILE);
+    HostHarness host(options);
+    QVERIFY2(host.ok(), qPrintable(host.error()));
+    const int start_messages = host.messages().size();   // the host's own start-up notes
+    delete dlg;
+    dlg = new FilterDialog(host.link(), nullptr, host.window()->backend_versions());
+    open([&] {   // body 03, "head", uses the medium prediction preset
+        auto* presets = w<QComboBox>("comboBox_preset");
+        QCOMPARE(presets->currentText(), "medium prediction");
+        presets->setCurrentIndex(presets->findText("custom"));
+        w<QSpinBox>("spinBox_prediction")->setValue(40);
+        QTest::keyClick(w("spinBox_prediction"), Qt::Key_Return);
+        ModalDialogHelper::when_active("FilterHelp", [&](QWidget* box) {
+            QCOMPARE(box->windowTitle(), "Help Filter");
+            box->findChild<QAbstractButton*>("pushButton_exit")->click();
+        });
+        w<QAbstractButton>("pushButton_help")->click();
+    });
+    open([&] { QCOMPARE(w<QComboBox>("comboBox_body")->currentText(), "pointer (Wand body 01)"); }, 1);   // no wand 03
+    for (const QByteArray path : {"body filter6d_preset standard b03 preset6d_custom",
+                                  "body filter6d_prediction standard b03 0.04"})
+        QCOMPARE(host.simulator()->handle("norvane get " + path.left(path.lastIndexOf(' '))).line,
+                 "norvane set " + path);
+    QCOMPARE(host.messages().mid(start_messages), QStringList());
+}
+
+QTEST_MAIN(tst_FilterDialog)
+#include "tst_FilterDialog.moc"
