@@ -19,6 +19,15 @@ QString ControllerText::withoutSingleQuotes(QString text)
     return text.remove(QLatin1Char('\''));
 }
 
+QString ControllerText::quoted(const QString& text)
+{
+    const int open = text.indexOf(QLatin1Char('"'));
+    if (open < 0)
+        return QString();
+    const int close = text.indexOf(QLatin1Char('"'), open + 1);
+    return text.mid(open + 1, close < 0 ? -1 : close - open - 1);
+}
+
 QString ControllerText::red(const QString& text)
 {
     return QStringLiteral("<b><font color=red>") + text + QStringLiteral("</font></b>");

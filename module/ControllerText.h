@@ -20,6 +20,10 @@ public:
     // the user sees neither.
     static QString withoutDoubleQuotes(QString text);
     static QString withoutSingleQuotes(QString text);
+    // What stands between the first two double quotes, such as the message
+    // of an error report; empty when there is no quote, the rest after a
+    // lone one.
+    static QString quoted(const QString& text);
 
     // How a dialog shows a problem in its own message line.
     static QString red(const QString& text);
