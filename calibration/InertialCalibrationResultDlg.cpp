@@ -30,6 +30,8 @@ void InertialCalibrationResultDlg::setupTable()
     ui->tableWidget->setColumnHidden(VendorColumn, true);
     ui->tableWidget->horizontalHeader()->setSectionsClickable(false);
     ui->tableWidget->horizontalHeader()->setStretchLastSection(true);
+    QHeaderView* rows = ui->tableWidget->verticalHeader();
+    rows->setMinimumSectionSize(qMin(rows->minimumSectionSize(), RowHeight));
 }
 
 void InertialCalibrationResultDlg::appendSensor(const QString& device_id, const QString& vendor,
