@@ -24,6 +24,7 @@ namespace {
 enum Column { DeviceId, Vendor, Model, Name, Residual, Calibrate, Accept };
 
 constexpr int RowHeight = 20;
+constexpr int CheckColumnWidth = 80;
 constexpr int MeasureIntervalMs = 200;
 constexpr int WarmupIntervalMs = 1000;
 // Bodies and sensors are numbered with two digits; a larger count is a
@@ -246,8 +247,10 @@ void InertialCalibrationDlg::setup_table()
     for (int column : {DeviceId, Vendor, Model, Residual})
         header->setSectionResizeMode(column, QHeaderView::ResizeToContents);
     header->setSectionResizeMode(Name, QHeaderView::Stretch);
-    header->setSectionResizeMode(Calibrate, QHeaderView::Fixed);
-    header->setSectionResizeMode(Accept, QHeaderView::Fixed);
+    for (int column : {Calibrate, Accept}) {
+        header->setSectionResizeMode(column, QHeaderView::Fixed);
+        header->resizeSection(column, CheckColumnWidth);
+    }
     header->setSectionsClickable(false);
     ui->tableWidget->setColumnHidden(Vendor, true);
     QHeaderView* rows = ui->tableWidget->verticalHeader();

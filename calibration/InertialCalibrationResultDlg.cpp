@@ -28,8 +28,10 @@ void InertialCalibrationResultDlg::setupTable()
 {
     // The vendor is carried for completeness; the model already names it.
     ui->tableWidget->setColumnHidden(VendorColumn, true);
-    ui->tableWidget->horizontalHeader()->setSectionsClickable(false);
-    ui->tableWidget->horizontalHeader()->setStretchLastSection(true);
+    QHeaderView* header = ui->tableWidget->horizontalHeader();
+    header->setSectionsClickable(false);
+    header->setSectionResizeMode(QHeaderView::ResizeToContents);
+    header->setStretchLastSection(true);
     QHeaderView* rows = ui->tableWidget->verticalHeader();
     rows->setMinimumSectionSize(qMin(rows->minimumSectionSize(), RowHeight));
 }
