@@ -37,12 +37,6 @@ QStringList words(const char* reply)
     return ControllerText::reply(reply).split(QLatin1Char(' '), Qt::SkipEmptyParts);
 }
 
-int percent(double fraction)
-{
-    const double value = std::floor(fraction * 100.0);
-    return value >= 0.0 ? int(qMin(value, 100.0)) : 0;
-}
-
 int sane_pause(double seconds)
 {
     return std::isfinite(seconds) ? int(qBound(0.0, seconds, double(MaxPauseSeconds))) : 0;
@@ -208,7 +202,7 @@ void CalibrationProgressDlg::poll_without_pauses()
 
     const int step = show_progress();
     emit progress_changed(overall_progress, step_progress);
-    if (step == 1 && !calculating_shown && percent(overall_progress) == 100) {
+    if (step == 1 && !calculating_shown && ControllerText::percent(overall_progress) == 100) {
         calculating_shown = true;
         ui->label_info->setText(tr("calculating..."));
     }
@@ -263,7 +257,7 @@ int CalibrationProgressDlg::show_progress()
     double overall = 0.0;
     if (io->get_double(&overall, "status progress") == 0 && std::isfinite(overall))
         overall_progress = overall;
-    ui->progressBar_overall->setValue(percent(overall_progress));
+    ui->progressBar_overall->setValue(ControllerText::percent(overall_progress));
 
     char reply[IOManager::ReplyCapacity] = "";
     io->get_string(reply, "status step_progress");
@@ -276,7 +270,7 @@ int CalibrationProgressDlg::show_progress()
         reported_step = qBound(1, step, MaxStep);
         step_progress = fraction;
     }
-    ui->progressBar_step->setValue(percent(step_progress));
+    ui->progressBar_step->setValue(ControllerText::percent(step_progress));
 
     if (VersionGate::available(versions, 1, 4)) {
         reply[0] = '\0';

@@ -57,12 +57,6 @@ QTableWidgetItem* check_item(bool checked, Qt::ItemFlags flags)
     return item;
 }
 
-int percent(double fraction)
-{
-    const double value = std::floor(fraction * 100.0);
-    return value >= 0.0 ? int(qMin(value, 100.0)) : 0;
-}
-
 } // namespace
 
 InertialCalibrationDlg::InertialCalibrationDlg(IOManager* io, QWidget* parent, BackendVersions* versions)
@@ -511,7 +505,7 @@ void InertialCalibrationDlg::do_measure()
     } else if (progress > max_progress) {
         // The sensors finish one by one; the bar never runs backwards.
         max_progress = progress;
-        ui->progressBar->setValue(percent(progress));
+        ui->progressBar->setValue(ControllerText::percent(progress));
     }
     if (status == None)
         end_run(true);

@@ -25,6 +25,10 @@ public:
     // lone one.
     static QString quoted(const QString& text);
 
+    // A fraction the controller reports (progress, warm-up) as the whole
+    // percent a bar shows: rounded down, pinned to 0..100, nonsense as 0.
+    static int percent(double fraction);
+
     // How a dialog shows a problem in its own message line.
     static QString red(const QString& text);
 
