@@ -88,51 +88,11 @@ int CalibrationProgressDlg::update_and_execute(const QString& type)
 
     char reply[IOManager::ReplyCapacity] = "";
     io->get_string(reply, "cal type_desc %s", t);
-    QString description = ControllerText::withoutDoubleQuotes(ControllerText::reply(reply));
-    int steps = 1;
-    number_of_steps = io->get_int(&steps, "cal number_of_steps %s", t) == 0 ? qBound(1, steps, MaxStep) : 1;
-
-    reply[0] = '\0';
-    io->get_string(reply, "cal step_pause %s s%02d", t, 1);
-    const QStringList pause = words(reply);
-    pause1_seconds = pause.value(0) == Yes ? sane_pause(pause.value(1).toDouble()) : 0;
-    if (number_of_steps == 2 && pause_mode) {
-        bool first = false;
-        bool second = false;
-        const int before_first = announced_pause(1, &first);
-        if (first)
-            pause1_seconds = before_first;
-        const int before_second = announced_pause(2, &second);
-        if (second)
-            pause2_seconds = before_second;
-        // Without both pauses announced the steps cannot be driven from here.
-        if (!first || !second)
-            number_of_steps = 1;
-    }
-
+    const QString description = ControllerText::withoutDoubleQuotes(ControllerText::reply(reply));
+    read_steps();
     if (pause1_seconds != 0 && !count_down(parentWidget(), pause1_seconds))
         return 0;
-
-    ui->label_info->clear();
-    const bool stepped = number_of_steps > 1;
-    ui->progressBar_step->setVisible(stepped);
-    ui->label->setVisible(stepped);
-    ui->label_progress_step->setVisible(stepped);
-    if (stepped)
-        description += tr(" is a %1 step calibration.").arg(number_of_steps);
-    ui->pb_cancel->setVisible(!reflex);
-    if (reflex)
-        description += tr("\nCurrently this calibration cannot be interrupted!");
-    ui->label_desc->setText(description);
-    ui->label_step_desc->setVisible(stepped);
-    if (stepped)
-        ui->label_step_desc->setText(step_description(1));
-    overall_progress = 0.0;
-    step_progress = 0.0;
-    ui->progressBar_overall->setValue(0);
-    ui->progressBar_step->setValue(0);
-    ui->label_remaining_time->clear();
-    calculating_shown = false;
+    lay_out(description, reflex);
 
     reply[0] = '\0';
     io->get_string(reply, "status active");
@@ -155,6 +115,54 @@ int CalibrationProgressDlg::update_and_execute(const QString& type)
     const int result = exec();
     poll_timer.stop();
     return result;
+}
+
+void CalibrationProgressDlg::read_steps()
+{
+    const char* t = type_line.constData();
+    int steps = 1;
+    number_of_steps = io->get_int(&steps, "cal number_of_steps %s", t) == 0 ? qBound(1, steps, MaxStep) : 1;
+    char reply[IOManager::ReplyCapacity] = "";
+    io->get_string(reply, "cal step_pause %s s%02d", t, 1);
+    const QStringList pause = words(reply);
+    pause1_seconds = pause.value(0) == Yes ? sane_pause(pause.value(1).toDouble()) : 0;
+    if (number_of_steps != 2 || !pause_mode)
+        return;
+    bool first = false;
+    bool second = false;
+    const int before_first = announced_pause(1, &first);
+    if (first)
+        pause1_seconds = before_first;
+    const int before_second = announced_pause(2, &second);
+    if (second)
+        pause2_seconds = before_second;
+    // Without both pauses announced the steps cannot be driven from here.
+    if (!first || !second)
+        number_of_steps = 1;
+}
+
+void CalibrationProgressDlg::lay_out(QString description, bool reflex)
+{
+    ui->label_info->clear();
+    const bool stepped = number_of_steps > 1;
+    ui->progressBar_step->setVisible(stepped);
+    ui->label->setVisible(stepped);
+    ui->label_progress_step->setVisible(stepped);
+    if (stepped)
+        description += tr(" is a %1 step calibration.").arg(number_of_steps);
+    ui->pb_cancel->setVisible(!reflex);
+    if (reflex)
+        description += tr("\nCurrently this calibration cannot be interrupted!");
+    ui->label_desc->setText(description);
+    ui->label_step_desc->setVisible(stepped);
+    if (stepped)
+        ui->label_step_desc->setText(step_description(1));
+    overall_progress = 0.0;
+    step_progress = 0.0;
+    ui->progressBar_overall->setValue(0);
+    ui->progressBar_step->setValue(0);
+    ui->label_remaining_time->clear();
+    calculating_shown = false;
 }
 
 void CalibrationProgressDlg::show_custom_message(const QString& text)

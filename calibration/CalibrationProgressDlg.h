@@ -39,6 +39,11 @@ signals:
     void progress_changed(double overall, double step);
 
 private:
+    // The number of steps and the pauses before them, as far as this
+    // dialog honours them.
+    void read_steps();
+    // Shows the description and the bars the steps need, all at 0.
+    void lay_out(QString description, bool reflex);
     void poll_without_pauses();
     void poll_with_pauses();
     // Reads and shows both bars and the time left; returns the step the
