@@ -240,7 +240,10 @@ void tst_CalibrationProgressDlg::two_steps_with_pause_mode()
     fake->reply("norvane get cal step_pause align s01", "norvane set cal step_pause align s01 yes 2");
     fake->reply("norvane get cal step_pause align s02", "norvane set cal step_pause align s02 yes 0");
     fake->reply("norvane cal align start_step s02", "norvane ok");
-    fake->replies("status step_active", {"pause 1", "cal 1", "pause 2", "pause 2"});
+    fake->replies("status step_active", {"pause 1", "cal 1", "pause 2", "pause 2", "err"});
+    fake->reply("norvane get status err", "norvane set status err 32 \"Body lost\"");
+    fake->accept("norvane tracking start");
+    fake->accept("norvane tracking stop");
     fake->reply("status step_progress", "1 0.75");
     on_countdown();
     const int result = run([&] {
@@ -253,13 +256,19 @@ void tst_CalibrationProgressDlg::two_steps_with_pause_mode()
         tick();                // pause 2: declined, yet step 2 starts
         QVERIFY(!dlg->isVisible());
         tick();                // pause 2 once more: no second countdown
+        ModalDialogHelper::when_active("QMessageBox", [](QWidget* box) {
+            QCOMPARE(static_cast<QMessageBox*>(box)->text(), QString("Body lost"));
+            ModalDialogHelper::press(box, QMessageBox::Ok);
+        });
+        tick();                // err: tracking started and stopped again
     });
     QCOMPARE(result, 0);
     QCOMPARE(countdowns, QList<int>({2, 2, 5}));
     QCOMPARE(fake->lines(), Lines({"status step_active", "status step_active", "status progress",
                                    "status step_progress", "cal step_duration align s01", "status step_active",
                                    "cal step_desc align s02", "norvane cal align start_step s02",
-                                   "status step_active", "cal step_desc align s02"}));
+                                   "status step_active", "cal step_desc align s02", "status step_active",
+                                   "norvane get status err", "norvane tracking start", "norvane tracking stop"}));
 }
 
 QTEST_MAIN(tst_CalibrationProgressDlg)

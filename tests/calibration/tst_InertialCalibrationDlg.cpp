@@ -43,6 +43,7 @@ private slots:
     void run_endings();
     void apply_data();
     void apply();
+    void warmup();
 
 private:
     template <class T = QPushButton>
@@ -51,6 +52,13 @@ private:
     // Opens the dialog, runs `inside` in its modal loop, then ends it.
     void open(const std::function<void()>& inside);
     void tick() { QMetaObject::invokeMethod(dlg, "do_measure"); }
+    QTimer* timer(int interval) const
+    {
+        for (QTimer* t : dlg->findChildren<QTimer*>())
+            if (t->interval() == interval)
+                return t;
+        return nullptr;
+    }
     // Calibrates both sensors until the controller reports the end.
     void calibrate(const QList<QByteArray>& statuses);
 
@@ -121,6 +129,7 @@ void tst_InertialCalibrationDlg::calibrate(const QList<QByteArray>& statuses)
     fake->replies("inertial sensor_gyro_progress " + S1, {"1.0"});
     fake->replies("inertial sensor_gyro_progress " + S2, {"0.5", "1.0"});
     w("pushButton_calibrate")->click();
+    QVERIFY(timer(200)->isActive());
     for (int i = 0; i < statuses.size() && w("pushButton_cancel")->isEnabled(); ++i) {
         tick();
         bars << w<QProgressBar>()->value();
@@ -146,7 +155,7 @@ void tst_InertialCalibrationDlg::reasons_data()
                                          << "No hybrid body is available" << false;
     QTest::newRow("no room calibration") << 21 << QByteArray("cal available inertial_gyro") << QByteArray("no")
                                          << "No valid room calibration" << false;
-    QTest::newRow("no body calibratable") << 21 << "inertial sensor_present " + S1 << QByteArray("no")
+    QTest::newRow("no body calibratable") << 21 << QByteArray("standard number_of_bodies") << QByteArray("0")
                                           << "No active body with hybrid calibration found" << false;
     QTest::newRow("cold sensors, a warning") << 21 << QByteArray("inertial warmup_status") << QByteArray("0.9")
                                              << cold << true;
@@ -164,8 +173,6 @@ void tst_InertialCalibrationDlg::reasons()
 
     versions.minor = minor;
     fake->reply(line, answer);
-    if (line.startsWith("inertial sensor_present"))
-        fake->reply("inertial sensor_present " + S2, "no");
     open([&] {
         QCOMPARE(w<QLabel>("label_error")->text(),
                  reason.isEmpty() ? QString() : "<b><font color=red>" + reason + "</font></b>");
@@ -173,6 +180,8 @@ void tst_InertialCalibrationDlg::reasons()
         QCOMPARE(w("pushButton_calibrate")->isEnabled(), usable);
         QCOMPARE(w<QTableWidget>("tableWidget")->isEnabled(), usable);
         QCOMPARE(dlg->windowIcon().cacheKey() != parent->windowIcon().cacheKey(), line == "config is_changeable");
+        QTest::keyClick(dlg, Qt::Key_Escape);   // no run: leaves
+        QVERIFY(!dlg->isVisible());
     });
     QCOMPARE(fake->message_texts(), QStringList());
 }
@@ -183,11 +192,12 @@ void tst_InertialCalibrationDlg::run_to_residuals()
         QTableWidget* table = w<QTableWidget>("tableWidget");
         QStringList rows;
         for (int r = 0; r < table->rowCount(); ++r)
-            rows << QString("%1 %2 %3 %4 %5 %6").arg(cell(r, 0)->text(), cell(r, 1)->text(), cell(r, 3)->text())
-                        .arg(cell(r, 5)->checkState()).arg(cell(r, 5)->flags()).arg(table->rowHeight(r));
-        QCOMPARE(rows, QStringList({"101 Norvane left 2 48 20", "102 Norvane right 2 48 20",
-                                    "103 Norvane standard body 03 0 0 20"}));
-        QVERIFY(table->isColumnHidden(1));
+            rows << QStringList({cell(r, 0)->text(), cell(r, 1)->text(), cell(r, 3)->text(),
+                                 cell(r, 5)->data(Qt::CheckStateRole).toString(), cell(r, 6)->data(Qt::CheckStateRole).toString(),
+                                 QString::number(cell(r, 5)->flags()), QString::number(table->rowHeight(r))}).join(' ');
+        QCOMPARE(rows, QStringList({"101 Norvane left 2 0 48 20", "102 Norvane right 2 0 48 20",
+                                    "103 Norvane standard body 03 0 0 0 20"}));
+        QVERIFY(table->isColumnHidden(1) && table->columnWidth(6) == 80);
         fake->clear_log();
         calibrate({"cal", "cal", "none"});
         QCOMPARE(bars, QList<int>({60, 60, 100}));   // 0.5 after 0.6 does not move it back
@@ -196,6 +206,10 @@ void tst_InertialCalibrationDlg::run_to_residuals()
             residuals << cell(r, 4)->text() + (cell(r, 6)->checkState() ? " accept" : "");
         QCOMPARE(residuals, QStringList({"0.0000", "0.4300 accept"}));
         QVERIFY(w("pushButton_apply")->isEnabled() && w("pushButton_calibrate")->isEnabled());
+        cell(1, 6)->setCheckState(Qt::Unchecked);   // the user's own click
+        QVERIFY(!w("pushButton_apply")->isEnabled());
+        w<QCheckBox>("checkBox_acceptAll")->setChecked(true);
+        QVERIFY(cell(0, 6)->checkState() && cell(1, 6)->checkState() && w("pushButton_apply")->isEnabled());
     });
     const QByteArray progress1 = "inertial sensor_gyro_progress " + S1, progress2 = "inertial sensor_gyro_progress " + S2;
     const Lines poll1{"inertial sensor_gyro_calibrate " + S1, progress1};
@@ -238,8 +252,11 @@ void tst_InertialCalibrationDlg::run_endings()
         calibrate({"cal"});
         fake->clear_log();
         fake->reply("status active", action.toLatin1());
-        if (action == "err")
+        if (action == "err") {
+            fake->fail("inertial sensor_gyro_progress " + S2);
             tick();
+            QCOMPARE(fake->message_texts(), QStringList({"Could not get progress of calibration of sensor: " + S2}));
+        }
         else if (action == "cancel")
             w("pushButton_cancel")->click();
         else
@@ -304,6 +321,26 @@ void tst_InertialCalibrationDlg::apply()
         QCOMPARE(fake->lines(), unmark_fails ? lines : Lines());
     });
     QCOMPARE(seen, listed);
+}
+
+void tst_InertialCalibrationDlg::warmup()
+{
+    fake->reply("inertial warmup", "yes");
+    fake->reply("inertial warmup_status", "0.42");
+    auto* bar = w<QProgressBar>("progressBar_warmup");
+    open([&] {
+        QVERIFY(bar->isVisible() && bar->value() == 42 && timer(1000)->isActive());
+        QVERIFY(w<QLabel>("label_error")->isVisible());
+    });
+    QVERIFY(!timer(1000)->isActive());
+    open([&] {
+        fake->reply("inertial warmup", "no");
+        fake->reply("inertial warmup_status", "1.0");
+        fake->clear_log();
+        QMetaObject::invokeMethod(dlg, "warmup_update");
+        QVERIFY(!bar->isVisible() && !timer(1000)->isActive() && !w<QLabel>("label_error")->isVisible());
+        QCOMPARE(fake->count("standard number_of_bodies"), 1);   // rebuilt
+    });
 }
 
 QTEST_MAIN(tst_InertialCalibrationDlg)
