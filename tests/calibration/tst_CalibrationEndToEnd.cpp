@@ -38,27 +38,23 @@ void tst_CalibrationEndToEnd::acceptedResidualBecomesTheSensorsCalibration()
     HostHarness host(options);
     QVERIFY2(host.ok(), qPrintable(host.error()));
     const int start_messages = host.messages().size();
-    QString residual;
-    QStringList listed;
+    QStringList seen;
     // The plug-in's own class, not the one this test links: found by name.
     ModalDialogHelper::when_active("InertialCalibrationDlg", [&](QWidget* dialog) {
         auto* table = dialog->findChild<QTableWidget*>("tableWidget");
         auto* calibrate = dialog->findChild<QPushButton*>("pushButton_calibrate");
-        QCOMPARE(table->rowCount(), 2);
-        QCOMPARE(table->item(0, 3)->text() + ", " + table->item(1, 3)->text(), QString("left hand, right hand"));
         QVERIFY(dialog->findChild<QLabel*>("label_error")->text().contains("warmed up"));   // cold sensors
         calibrate->click();
         for (int seconds = 0; seconds < 30 && !calibrate->isEnabled(); ++seconds) {
             host.clock()->advance(1000);
             QMetaObject::invokeMethod(dialog, "do_measure");
         }
-        residual = table->item(0, 4)->text();
-        QCOMPARE(table->item(0, 6)->checkState(), Qt::Checked);
-        QCOMPARE(table->item(1, 4)->text(), QString());
+        for (int row = 0; row < table->rowCount(); ++row)
+            seen << table->item(row, 3)->text() + ' ' + table->item(row, 4)->text() + ' '
+                        + QString::number(table->item(row, 6)->checkState());
         ModalDialogHelper::when_active("InertialCalibrationResultDlg", [&](QWidget* result) {
             auto* accepted = result->findChild<QTableWidget*>();
-            for (int row = 0; row < accepted->rowCount(); ++row)
-                listed << accepted->item(row, 0)->text() + ' ' + accepted->item(row, 3)->text();
+            seen << accepted->item(0, 0)->text() + " accepted, of " + QString::number(accepted->rowCount());
             result->close();
         });
         dialog->findChild<QPushButton*>("pushButton_apply")->click();
@@ -66,10 +62,10 @@ void tst_CalibrationEndToEnd::acceptedResidualBecomesTheSensorsCalibration()
     });
     host.action("In&ertial Sensor Calibration")->trigger();
 
-    QCOMPARE(listed, QStringList({"10231 left hand"}));
-    const SimModel& model = host.simulator()->model();
-    QCOMPARE(QString::number(model.sensors.at(0).gyro_residual, 'f', 4), residual);
-    QVERIFY(!model.sensors.at(0).gyro_marked && !model.sensors.at(0).has_new_gyro);
+    const SimModel::Sensor& sensor = host.simulator()->model().sensors.at(0);
+    const QString residual = QString::number(sensor.gyro_residual, 'f', 4);
+    QCOMPARE(seen, QStringList({"left hand " + residual + " 2", "right hand  0", "10231 accepted, of 1"}));
+    QVERIFY(!sensor.gyro_marked && !sensor.has_new_gyro);
     QCOMPARE(host.simulator()->handle("norvane get status active").line, QByteArray("norvane set status active none"));
     QCOMPARE(host.messages().mid(start_messages), QStringList());
 }

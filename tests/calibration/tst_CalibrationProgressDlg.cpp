@@ -24,8 +24,7 @@ private slots:
     void cleanup();
     void runs_data();
     void runs();
-    void countdown_data();
-    void countdown();
+    void declined_countdown_starts_nothing();
     void two_steps_without_pause_mode();
     void two_steps_with_pause_mode();
 
@@ -112,33 +111,31 @@ void tst_CalibrationProgressDlg::runs_data()
 {
     QTest::addColumn<QString>("type");
     QTest::addColumn<QByteArray>("activity");   // before the start
-    QTest::addColumn<QByteArray>("started");
-    QTest::addColumn<QByteArray>("ending");     // status, or Escape pressed
+    QTest::addColumn<QByteArray>("ending");     // status, Escape pressed, or the start refused
     QTest::addColumn<Lines>("lines");
     QTest::addColumn<int>("result");
     QTest::addColumn<QStringList>("messages");
 
-    const QByteArray ok = "norvane ok", start = "norvane cal align start", status = "status active";
-    QTest::newRow("idle, finishes") << "align" << QByteArray("none") << ok << QByteArray("none")
+    const QByteArray start = "norvane cal align start", status = "status active";
+    QTest::newRow("idle, finishes") << "align" << QByteArray("none") << QByteArray("none")
                                     << Lines{start, status} << 1 << QStringList();
-    QTest::newRow("tracking stopped, fails") << "align" << QByteArray("tracking") << ok << QByteArray("err")
+    QTest::newRow("tracking stopped, fails") << "align" << QByteArray("tracking") << QByteArray("err")
                                              << Lines{"norvane tracking stop", start, status, "norvane get status err"}
                                              << 0 << QStringList{"Calibration Error: Lost contact to 'S1'"};
-    QTest::newRow("Escape stops") << "align" << QByteArray("err") << ok << QByteArray("escape")
+    QTest::newRow("Escape stops") << "align" << QByteArray("err") << QByteArray("escape")
                                   << Lines{start, "norvane cal align stop"} << 0 << QStringList();
-    QTest::newRow("reflex scan ignores Escape") << "reflex_scan" << QByteArray("none") << ok << QByteArray("escape")
+    QTest::newRow("reflex scan ignores Escape") << "reflex_scan" << QByteArray("none") << QByteArray("escape")
                                                 << Lines{"norvane cal reflex_scan start"} << 0 << QStringList();
-    QTest::newRow("waiting for sync") << "align" << QByteArray("wait") << ok << QByteArray() << Lines{} << 0
+    QTest::newRow("waiting for sync") << "align" << QByteArray("wait") << QByteArray() << Lines{} << 0
                                       << QStringList{"cannot start calibration, waiting for sync signal"};
-    QTest::newRow("start refused") << "align" << QByteArray("none") << QByteArray("norvane ok ") << QByteArray()
-                                   << Lines{start} << 0 << QStringList();
+    QTest::newRow("start refused") << "align" << QByteArray("none") << QByteArray("refused") << Lines{start} << 0
+                                   << QStringList();
 }
 
 void tst_CalibrationProgressDlg::runs()
 {
     QFETCH(QString, type);
     QFETCH(QByteArray, activity);
-    QFETCH(QByteArray, started);
     QFETCH(QByteArray, ending);
     QFETCH(Lines, lines);
     QFETCH(int, result);
@@ -147,20 +144,22 @@ void tst_CalibrationProgressDlg::runs()
     make(false, 1, "no 0");
     const QByteArray t = type.toLatin1();
     fake->reply("status active", activity);
-    fake->reply("norvane cal " + t + " start", started);
+    if (ending == "refused")
+        fake->reply("norvane cal " + t + " start", "norvane ok ");
     fake->accept("norvane tracking stop");
     fake->reply("norvane get status err", "norvane set status err 31 \"Lost contact to 'S1'\" \"x\"");
     const bool reflex = type == "reflex_scan";
     QStringList seen;
-    QCOMPARE(run(ending.isEmpty() ? std::function<void()>() : [&] {
+    const bool shows = !ending.isEmpty() && ending != "refused";
+    QCOMPARE(run(!shows ? std::function<void()>() : [&] {
                  QCOMPARE(dlg->findChild<QPushButton*>("pb_cancel")->isVisible(), !reflex);
                  QCOMPARE(bool(dlg->windowFlags() & Qt::WindowCloseButtonHint), !reflex);
                  seen << text("label_desc");
                  fake->reply("status active", ending);
                  if (ending == "err")
                      ModalDialogHelper::when_active("QMessageBox", [&](QWidget* box) {
-                     seen << box->windowTitle() + ": " + static_cast<QMessageBox*>(box)->text();
-                     ModalDialogHelper::press(box, QMessageBox::Ok);
+                         seen << box->windowTitle() + ": " + static_cast<QMessageBox*>(box)->text();
+                         ModalDialogHelper::press(box, QMessageBox::Ok);
                      });
                  ending == "escape" ? QTest::keyClick(dlg, Qt::Key_Escape) : tick();
                  QCOMPARE(dlg->isVisible(), reflex);
@@ -176,28 +175,13 @@ void tst_CalibrationProgressDlg::runs()
         QCOMPARE(seen.first(), QString("Sensor reflex_scan\nCurrently this calibration cannot be interrupted!"));
 }
 
-void tst_CalibrationProgressDlg::countdown_data()
+void tst_CalibrationProgressDlg::declined_countdown_starts_nothing()
 {
-    QTest::addColumn<QByteArray>("button");
-    QTest::addColumn<QList<int>>("shown");
-    QTest::addColumn<int>("starts");
-
-    QTest::newRow("Start now") << QByteArray("pushButton_2") << QList<int>{2} << 1;
-    QTest::newRow("Cancel: no start") << QByteArray("pushButton") << QList<int>{2} << 0;
-    QTest::newRow("runs out") << QByteArray() << QList<int>{2, 0} << 1;
-}
-
-void tst_CalibrationProgressDlg::countdown()
-{
-    QFETCH(QByteArray, button);
-    QFETCH(QList<int>, shown);
-    QFETCH(int, starts);
-
     make(false, 1, "yes 2.9");
-    on_countdown(button.constData());
-    run(starts ? [] {} : std::function<void()>());
-    QCOMPARE(countdowns, shown);
-    QCOMPARE(fake->count("norvane cal align start"), starts);
+    on_countdown("pushButton");
+    QCOMPARE(run(nullptr), 0);
+    QCOMPARE(countdowns, QList<int>({2}));
+    QCOMPARE(fake->count("norvane cal align start"), 0);
 }
 
 void tst_CalibrationProgressDlg::two_steps_without_pause_mode()
@@ -215,10 +199,13 @@ void tst_CalibrationProgressDlg::two_steps_without_pause_mode()
         seen << text("label_desc") << text("label_step_desc");
         fake->clear_log();
         tick();
-        seen << QString("%1 %2 %3").arg(bar("progressBar_overall")).arg(bar("progressBar_step")).arg(text("label_info"));
+        const auto shown = [&] {
+            seen << QString("%1 %2 %3").arg(bar("progressBar_overall")).arg(bar("progressBar_step")).arg(text("label_info"));
+        };
+        shown();
         tick();
         dlg->show_custom_message("later");
-        seen << QString("%1 %2 %3").arg(bar("progressBar_overall")).arg(bar("progressBar_step")).arg(text("label_info"));
+        shown();
         on_countdown("pushButton");
         tick();
         seen << text("label_step_desc") << text("label_remaining_time");
@@ -248,8 +235,8 @@ void tst_CalibrationProgressDlg::two_steps_with_pause_mode()
     on_countdown();
     const int result = run([&] {
         fake->clear_log();
-        on_countdown();
-        tick();                // pause 1
+        on_countdown("");
+        tick();                // pause 1: the countdown runs out
         tick();                // cal 1
         QCOMPARE(text("label_remaining_time"), QString("remaining time: 2 seconds"));
         on_countdown("pushButton");
@@ -263,7 +250,7 @@ void tst_CalibrationProgressDlg::two_steps_with_pause_mode()
         tick();                // err: tracking started and stopped again
     });
     QCOMPARE(result, 0);
-    QCOMPARE(countdowns, QList<int>({2, 2, 5}));
+    QCOMPARE(countdowns, QList<int>({2, 2, 0, 5}));
     QCOMPARE(fake->lines(), Lines({"status step_active", "status step_active", "status progress",
                                    "status step_progress", "cal step_duration align s01", "status step_active",
                                    "cal step_desc align s02", "norvane cal align start_step s02",

@@ -1,12 +1,12 @@
 #include <QtTest>
 
 #include <QCheckBox>
-#include <QHeaderView>
 #include <QLabel>
 #include <QProgressBar>
 #include <QPushButton>
 #include <QTableWidget>
 
+#include <algorithm>
 #include <functional>
 
 #include "FakeController.h"
@@ -20,10 +20,7 @@ namespace {
 
 const QByteArray S1 = "nv imu '101'", S2 = "nv imu '102'", S3 = "nv imu '103'";
 
-QByteArray marked(const QByteArray& sensor, const char* yes_no)
-{
-    return "inertial sensor_gyro_calibrate " + sensor + ' ' + yes_no;
-}
+QByteArray marked(const QByteArray& sensor, const char* yes_no) { return "inertial sensor_gyro_calibrate " + sensor + ' ' + yes_no; }
 
 } // namespace
 
@@ -52,12 +49,11 @@ private:
     // Opens the dialog, runs `inside` in its modal loop, then ends it.
     void open(const std::function<void()>& inside);
     void tick() { QMetaObject::invokeMethod(dlg, "do_measure"); }
-    QTimer* timer(int interval) const
+    // The 200 ms measure timer or the 1000 ms warm-up timer.
+    QTimer* timer(int ms) const
     {
-        for (QTimer* t : dlg->findChildren<QTimer*>())
-            if (t->interval() == interval)
-                return t;
-        return nullptr;
+        const QList<QTimer*> timers = dlg->findChildren<QTimer*>(QString(), Qt::FindDirectChildrenOnly);
+        return *std::find_if(timers.begin(), timers.end(), [ms](QTimer* t) { return t->interval() == ms; });
     }
     // Calibrates both sensors until the controller reports the end.
     void calibrate(const QList<QByteArray>& statuses);
@@ -88,7 +84,7 @@ void tst_InertialCalibrationDlg::init()
              {"body desc standard b03", "\"\""}, {"inertial sensor_vendor_desc nv", "\"Norvane\""},
              {"inertial sensor_model_desc nv imu", "\"IMU\""}, {"inertial warmup", "no"},
              {"inertial warmup_status", "1.0"}, {"norvane cal inertial_gyro start", "norvane ok"},
-             {"norvane cal inertial_gyro stop", "norvane ok"}, {"status active", "cal"},
+             {"norvane cal inertial_gyro stop", "norvane ok"},
              {"inertial new_sensor_gyro_residual " + S1, "0.0"}, {"inertial new_sensor_gyro_residual " + S2, "0.43"}}) {
         fake->reply(line, answer);
     }
@@ -144,7 +140,6 @@ void tst_InertialCalibrationDlg::reasons_data()
     QTest::addColumn<QString>("reason");
     QTest::addColumn<bool>("usable");
 
-    const QString cold = "Not all sensors have been warmed up, to get a valid calibration please start the warmup!";
     QTest::newRow("ready") << 21 << QByteArray() << QByteArray() << "" << true;
     QTest::newRow("older than 1.12") << 11 << QByteArray() << QByteArray()
                                      << "This controller does not support hybrid sensors - please update your controller"
@@ -158,7 +153,8 @@ void tst_InertialCalibrationDlg::reasons_data()
     QTest::newRow("no body calibratable") << 21 << QByteArray("standard number_of_bodies") << QByteArray("0")
                                           << "No active body with hybrid calibration found" << false;
     QTest::newRow("cold sensors, a warning") << 21 << QByteArray("inertial warmup_status") << QByteArray("0.9")
-                                             << cold << true;
+                                             << "Not all sensors have been warmed up, to get a valid calibration please "
+                                                "start the warmup!" << true;
     QTest::newRow("locked: lock, no reason") << 21 << QByteArray("config is_changeable") << QByteArray("no") << ""
                                              << false;
 }
@@ -256,11 +252,11 @@ void tst_InertialCalibrationDlg::run_endings()
             fake->fail("inertial sensor_gyro_progress " + S2);
             tick();
             QCOMPARE(fake->message_texts(), QStringList({"Could not get progress of calibration of sensor: " + S2}));
-        }
-        else if (action == "cancel")
+        } else if (action == "cancel") {
             w("pushButton_cancel")->click();
-        else
+        } else {
             action == "close" ? (void)dlg->close() : QTest::keyClick(dlg, Qt::Key_Escape);
+        }
         QCOMPARE(dlg->isVisible(), action != "close");
         QCOMPARE(w("pushButton_cancel")->isEnabled(), running);
         QCOMPARE(w("pushButton_exit")->isEnabled(), !running);
@@ -307,8 +303,8 @@ void tst_InertialCalibrationDlg::apply()
                 QVERIFY(dlg->cursor().shape() == Qt::WaitCursor);
                 auto* table = result->findChild<QTableWidget*>();
                 for (int r = 0; r < table->rowCount(); ++r)
-                    seen << QStringList({table->item(r, 0)->text(), table->item(r, 1)->text(),
-                                         table->item(r, 2)->text(), table->item(r, 3)->text()}).join(' ');
+                    seen << table->item(r, 0)->text() + ' ' + table->item(r, 1)->text() + ' ' + table->item(r, 2)->text()
+                                + ' ' + table->item(r, 3)->text();
                 QVERIFY(table->isColumnHidden(1));
                 result->findChild<QPushButton*>("pushButton_exit")->click();
             });
@@ -328,17 +324,14 @@ void tst_InertialCalibrationDlg::warmup()
     fake->reply("inertial warmup", "yes");
     fake->reply("inertial warmup_status", "0.42");
     auto* bar = w<QProgressBar>("progressBar_warmup");
+    auto* warning = w<QLabel>("label_error");
     open([&] {
-        QVERIFY(bar->isVisible() && bar->value() == 42 && timer(1000)->isActive());
-        QVERIFY(w<QLabel>("label_error")->isVisible());
-    });
-    QVERIFY(!timer(1000)->isActive());
-    open([&] {
+        QVERIFY(bar->isVisible() && bar->value() == 42 && timer(1000)->isActive() && warning->isVisible());
         fake->reply("inertial warmup", "no");
         fake->reply("inertial warmup_status", "1.0");
         fake->clear_log();
         QMetaObject::invokeMethod(dlg, "warmup_update");
-        QVERIFY(!bar->isVisible() && !timer(1000)->isActive() && !w<QLabel>("label_error")->isVisible());
+        QVERIFY(!bar->isVisible() && !timer(1000)->isActive() && !warning->isVisible());
         QCOMPARE(fake->count("standard number_of_bodies"), 1);   // rebuilt
     });
 }
