@@ -154,7 +154,6 @@ void InertialCalibrationDlg::refresh()
                  has_calibratable_body ? QString() : tr("No active body with hybrid calibration found"));
     if (is_warmup_active()) {
         ui->progressBar_warmup->show();
-        ui->progressBar->setValue(0);
         warmup_update();
         warmup_timer.start();
     }

@@ -58,13 +58,19 @@ void tst_CalibrationEndToEnd::acceptedResidualBecomesTheSensorsCalibration()
             result->close();
         });
         dialog->findChild<QPushButton*>("pushButton_apply")->click();
+        ModalDialogHelper::when_active("InertialCalibrationHelpDlg", [&](QWidget* help) {
+            seen << help->findChild<QLabel*>("label_3")->text();
+            help->findChild<QPushButton*>("pushButton_exit")->click();
+        });
+        dialog->findChild<QPushButton*>("pushButton_help")->click();
         dialog->findChild<QPushButton*>("pushButton_exit")->click();
     });
     host.action("In&ertial Sensor Calibration")->trigger();
 
     const SimModel::Sensor& sensor = host.simulator()->model().sensors.at(0);
     const QString residual = QString::number(sensor.gyro_residual, 'f', 4);
-    QCOMPARE(seen, QStringList({"left hand " + residual + " 2", "right hand  0", "10231 accepted, of 1"}));
+    QCOMPARE(seen, QStringList({"left hand " + residual + " 2", "right hand  0", "10231 accepted, of 1",
+                                "How to do a inertial sensor calibration?"}));
     QVERIFY(!sensor.gyro_marked && !sensor.has_new_gyro);
     QCOMPARE(host.simulator()->handle("norvane get status active").line, QByteArray("norvane set status active none"));
     QCOMPARE(host.messages().mid(start_messages), QStringList());

@@ -1,6 +1,7 @@
 #include <QtTest>
 
 #include <QCheckBox>
+#include <QHeaderView>
 #include <QLabel>
 #include <QProgressBar>
 #include <QPushButton>
@@ -155,6 +156,8 @@ void tst_InertialCalibrationDlg::reasons_data()
     QTest::newRow("cold sensors, a warning") << 21 << QByteArray("inertial warmup_status") << QByteArray("0.9")
                                              << "Not all sensors have been warmed up, to get a valid calibration please "
                                                 "start the warmup!" << true;
+    QTest::newRow("a body's sensor unreadable") << 21 << QByteArray("body inertial_sensor standard b02") << QByteArray("x")
+                                                << "" << true;
     QTest::newRow("locked: lock, no reason") << 21 << QByteArray("config is_changeable") << QByteArray("no") << ""
                                              << false;
 }
@@ -179,7 +182,7 @@ void tst_InertialCalibrationDlg::reasons()
         QTest::keyClick(dlg, Qt::Key_Escape);   // no run: leaves
         QVERIFY(!dlg->isVisible());
     });
-    QCOMPARE(fake->message_texts(), QStringList());
+    QCOMPARE(fake->message_texts(), answer == "x" ? QStringList{"Could not get sensor of body: standard b02"} : QStringList());
 }
 
 void tst_InertialCalibrationDlg::run_to_residuals()
@@ -193,7 +196,8 @@ void tst_InertialCalibrationDlg::run_to_residuals()
                                  QString::number(cell(r, 5)->flags()), QString::number(table->rowHeight(r))}).join(' ');
         QCOMPARE(rows, QStringList({"101 Norvane left 2 0 48 20", "102 Norvane right 2 0 48 20",
                                     "103 Norvane standard body 03 0 0 0 20"}));
-        QVERIFY(table->isColumnHidden(1) && table->columnWidth(6) == 80);
+        QVERIFY(table->isColumnHidden(1) && table->columnWidth(6) == 80
+                && table->horizontalHeader()->sectionResizeMode(3) == QHeaderView::Stretch);
         fake->clear_log();
         calibrate({"cal", "cal", "none"});
         QCOMPARE(bars, QList<int>({60, 60, 100}));   // 0.5 after 0.6 does not move it back
@@ -250,8 +254,10 @@ void tst_InertialCalibrationDlg::run_endings()
         fake->reply("status active", action.toLatin1());
         if (action == "err") {
             fake->fail("inertial sensor_gyro_progress " + S2);
+            fake->fail("status progress");
             tick();
-            QCOMPARE(fake->message_texts(), QStringList({"Could not get progress of calibration of sensor: " + S2}));
+            QCOMPARE(fake->message_texts(), QStringList({"Could not get progress of calibration of sensor: " + S2,
+                                                         "Could not get progress of calibration"}));
         } else if (action == "cancel") {
             w("pushButton_cancel")->click();
         } else {
@@ -270,21 +276,25 @@ void tst_InertialCalibrationDlg::run_endings()
 
 void tst_InertialCalibrationDlg::apply_data()
 {
+    QTest::addColumn<QByteArray>("residual");   // of S1; 0.0 is not offered for keeping
     QTest::addColumn<bool>("unmark_fails");
     QTest::addColumn<Lines>("lines");
     QTest::addColumn<QStringList>("listed");
     QTest::addColumn<QStringList>("messages");
 
     const QByteArray accept = "norvane inertial accept_new_sensor_gyro ";
-    QTest::newRow("one kept, one refused") << false << Lines{accept + S1, marked(S1, "no"), accept + S2, marked(S2, "no")}
+    QTest::newRow("one kept, one refused") << QByteArray("0.2") << false << Lines{accept + S1, marked(S1, "no"), accept + S2, marked(S2, "no")}
                                            << QStringList{"101 Norvane IMU left"}
                                            << QStringList{"Could not accept new calirabtion of sensor: " + S2};
-    QTest::newRow("failed unmark stops") << true << Lines{accept + S1, marked(S1, "no")} << QStringList()
+    QTest::newRow("unticked, not kept") << QByteArray("0.0") << false << Lines{accept + S2, marked(S2, "no")}
+                                        << QStringList() << QStringList{"Could not accept new calirabtion of sensor: " + S2};
+    QTest::newRow("failed unmark stops") << QByteArray("0.2") << true << Lines{accept + S1, marked(S1, "no")} << QStringList()
                                          << QStringList{"Could not set calibration of sensor: " + S1};
 }
 
 void tst_InertialCalibrationDlg::apply()
 {
+    QFETCH(QByteArray, residual);
     QFETCH(bool, unmark_fails);
     QFETCH(Lines, lines);
     QFETCH(QStringList, listed);
@@ -293,7 +303,7 @@ void tst_InertialCalibrationDlg::apply()
     fake->reply("norvane inertial accept_new_sensor_gyro " + S2, "norvane err 7", 4);
     if (unmark_fails)
         fake->fail(marked(S1, "no"));
-    fake->reply("inertial new_sensor_gyro_residual " + S1, "0.2");
+    fake->reply("inertial new_sensor_gyro_residual " + S1, residual);
     QStringList seen;
     open([&] {
         calibrate({"cal", "cal", "none"});
