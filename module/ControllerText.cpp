@@ -1,5 +1,6 @@
 #include "ControllerText.h"
 
+#include <cmath>
 #include <cstring>
 
 #include "IOManager.h"
@@ -17,6 +18,21 @@ QString ControllerText::withoutDoubleQuotes(QString text)
 QString ControllerText::withoutSingleQuotes(QString text)
 {
     return text.remove(QLatin1Char('\''));
+}
+
+QString ControllerText::quoted(const QString& text)
+{
+    const int open = text.indexOf(QLatin1Char('"'));
+    if (open < 0)
+        return QString();
+    const int close = text.indexOf(QLatin1Char('"'), open + 1);
+    return text.mid(open + 1, close < 0 ? -1 : close - open - 1);
+}
+
+int ControllerText::percent(double fraction)
+{
+    const double value = std::floor(fraction * 100.0);
+    return value >= 0.0 ? int(qMin(value, 100.0)) : 0;
 }
 
 QString ControllerText::red(const QString& text)

@@ -20,6 +20,14 @@ public:
     // the user sees neither.
     static QString withoutDoubleQuotes(QString text);
     static QString withoutSingleQuotes(QString text);
+    // What stands between the first two double quotes, such as the message
+    // of an error report; empty when there is no quote, the rest after a
+    // lone one.
+    static QString quoted(const QString& text);
+
+    // A fraction the controller reports (progress, warm-up) as the whole
+    // percent a bar shows: rounded down, pinned to 0..100, nonsense as 0.
+    static int percent(double fraction);
 
     // How a dialog shows a problem in its own message line.
     static QString red(const QString& text);

@@ -21,6 +21,7 @@
 #include "ChannelComboBox.h"
 #include "SensorChannelCombo.h"
 #include "addsensor/AddInertialSensorDlg.h"
+#include "module/ControllerChecks.h"
 #include "module/ControllerText.h"
 #include "module/IOManager.h"
 #include "module/IneritalMessageReceiver.h"
@@ -410,28 +411,17 @@ bool InertialSettingsDlg::read_list_item(SensorIdentity* identity, const char* f
 
 bool InertialSettingsDlg::is_config_locked()
 {
-    if (!VersionGate::available(backend_versions, 1, 9))
-        return false;
-    char reply[IOManager::ReplyCapacity];
-    return io->get_string(reply, "config is_changeable") == 0 && ControllerText::reply(reply) == No;
+    return ControllerChecks::configLocked(io, backend_versions);
 }
 
 bool InertialSettingsDlg::is_inertial_available()
 {
-    if (!VersionGate::available(backend_versions, 1, 12))
-        return false;
-    char reply[IOManager::ReplyCapacity];
-    return io->get_string(reply, "inertial available") == 0 && ControllerText::reply(reply) == Yes;
+    return ControllerChecks::inertialAvailable(io, backend_versions);
 }
 
 bool InertialSettingsDlg::is_warmup_active()
 {
-    char reply[IOManager::ReplyCapacity];
-    if (io->get_string(reply, "inertial warmup") != 0) {
-        report(tr("Could not get warmup status"));
-        return false;
-    }
-    return ControllerText::reply(reply) == Yes;
+    return ControllerChecks::warmupActive(io);
 }
 
 bool InertialSettingsDlg::isTransceiverPresent()

@@ -1,0 +1,350 @@
+#include <QtTest>
+
+#include <QCheckBox>
+#include <QHeaderView>
+#include <QLabel>
+#include <QProgressBar>
+#include <QPushButton>
+#include <QTableWidget>
+
+#include <algorithm>
+#include <functional>
+
+#include "FakeController.h"
+#include "ModalDialogHelper.h"
+#include "calibration/InertialCalibrationDlg.h"
+#include "module/BackendVersions.h"
+
+using Lines = QList<QByteArray>;
+
+namespace {
+
+const QByteArray S1 = "nv imu '101'", S2 = "nv imu '102'", S3 = "nv imu '103'";
+
+QByteArray marked(const QByteArray& sensor, const char* yes_no) { return "inertial sensor_gyro_calibrate " + sensor + ' ' + yes_no; }
+
+} // namespace
+
+// Three active bodies carry a sensor: left and right can be calibrated, the
+// third's sensor is away; a fourth body is inactive.
+class tst_InertialCalibrationDlg : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void init();
+    void cleanup();
+    void reasons_data();
+    void reasons();
+    void run_to_residuals();
+    void run_endings_data();
+    void run_endings();
+    void apply_data();
+    void apply();
+    void warmup();
+
+private:
+    template <class T = QPushButton>
+    T* w(const char* name = "progressBar") const { return dlg->findChild<T*>(name); }
+    QTableWidgetItem* cell(int row, int column) const { return w<QTableWidget>("tableWidget")->item(row, column); }
+    // Opens the dialog, runs `inside` in its modal loop, then ends it.
+    void open(const std::function<void()>& inside);
+    void tick() { QMetaObject::invokeMethod(dlg, "do_measure"); }
+    // The 200 ms measure timer or the 1000 ms warm-up timer.
+    QTimer* timer(int ms) const
+    {
+        const QList<QTimer*> timers = dlg->findChildren<QTimer*>(QString(), Qt::FindDirectChildrenOnly);
+        return *std::find_if(timers.begin(), timers.end(), [ms](QTimer* t) { return t->interval() == ms; });
+    }
+    // Calibrates both sensors until the controller reports the end.
+    void calibrate(const QList<QByteArray>& statuses);
+
+    FakeController* fake = nullptr;
+    BackendVersions versions;
+    QDialog* parent = nullptr;
+    InertialCalibrationDlg* dlg = nullptr;
+    QList<int> bars;   // after each tick of calibrate()
+};
+
+void tst_InertialCalibrationDlg::init()
+{
+    fake = new FakeController;
+    fake->set_stateful(true);
+    versions = BackendVersions();
+    versions.major = 1;
+    versions.minor = 21;
+    parent = new QDialog;
+    bars.clear();
+    dlg = new InertialCalibrationDlg(fake, parent, &versions);
+    for (const auto& [line, answer] : QList<QPair<QByteArray, QByteArray>>{
+             {"config is_changeable", "yes"}, {"inertial available", "yes"}, {"inertial number_of_sensors", "2"},
+             {"inertial sensor d01", S3}, {"inertial sensor d02", S1}, {"inertial body_of_sensor " + S3, "none"},
+             {"inertial body_of_sensor " + S1, "standard b01"}, {"cal available inertial_gyro", "yes"},
+             {"standard number_of_bodies", "4"}, {"body active standard b04", "no"},
+             {"body desc standard b01", "\"left\""}, {"body desc standard b02", "\"right\""},
+             {"body desc standard b03", "\"\""}, {"inertial sensor_vendor_desc nv", "\"Norvane\""},
+             {"inertial sensor_model_desc nv imu", "\"IMU\""}, {"inertial warmup", "no"},
+             {"inertial warmup_status", "1.0"}, {"norvane cal inertial_gyro start", "norvane ok"},
+             {"norvane cal inertial_gyro stop", "norvane ok"},
+             {"inertial new_sensor_gyro_residual " + S1, "0.0"}, {"inertial new_sensor_gyro_residual " + S2, "0.43"}}) {
+        fake->reply(line, answer);
+    }
+    for (const QByteArray& s : {S1, S2, S3}) {
+        const QByteArray body = "standard b0" + s.right(2).left(1);
+        fake->reply("body active " + body, "yes");
+        fake->reply("body inertial_sensor " + body, s);
+        fake->reply("inertial sensor_gyro_calibrate " + s, "no");
+        fake->reply("inertial sensor_present " + s, s == S3 ? "no" : "yes");
+        fake->reply("inertial sensor_handeye " + s, "standard b01");
+        fake->reply("norvane inertial accept_new_sensor_gyro " + s, "norvane ok");
+    }
+}
+
+void tst_InertialCalibrationDlg::cleanup()
+{
+    delete parent;
+    delete fake;
+    QCOMPARE(ModalDialogHelper::pending(), 0);
+    ModalDialogHelper::clear_pending();
+    QCOMPARE(ModalDialogHelper::leaked_windows(), QStringList());
+}
+
+void tst_InertialCalibrationDlg::open(const std::function<void()>& inside)
+{
+    ModalDialogHelper::when_active("InertialCalibrationDlg", [=](QWidget*) {
+        inside();
+        if (dlg->isVisible())
+            ModalDialogHelper::close(dlg);
+    });
+    dlg->update_and_exec();
+}
+
+void tst_InertialCalibrationDlg::calibrate(const QList<QByteArray>& statuses)
+{
+    fake->replies("status active", statuses);
+    fake->replies("status progress", {"0.6", "0.5", "1.0"});
+    fake->replies("inertial sensor_gyro_progress " + S1, {"1.0"});
+    fake->replies("inertial sensor_gyro_progress " + S2, {"0.5", "1.0"});
+    w("pushButton_calibrate")->click();
+    QVERIFY(timer(200)->isActive());
+    for (int i = 0; i < statuses.size() && w("pushButton_cancel")->isEnabled(); ++i) {
+        tick();
+        bars << w<QProgressBar>()->value();
+    }
+}
+
+void tst_InertialCalibrationDlg::reasons_data()
+{
+    QTest::addColumn<int>("minor");
+    QTest::addColumn<QByteArray>("line");
+    QTest::addColumn<QByteArray>("answer");
+    QTest::addColumn<QString>("reason");
+    QTest::addColumn<bool>("usable");
+
+    QTest::newRow("ready") << 21 << QByteArray() << QByteArray() << "" << true;
+    QTest::newRow("older than 1.12") << 11 << QByteArray() << QByteArray()
+                                     << "This controller does not support hybrid sensors - please update your controller"
+                                     << false;
+    QTest::newRow("inertial tracking off") << 21 << QByteArray("inertial available") << QByteArray("no")
+                                           << "Hybrid tracking is not available" << false;
+    QTest::newRow("no sensor on a body") << 21 << "inertial body_of_sensor " + S1 << QByteArray("none")
+                                         << "No hybrid body is available" << false;
+    QTest::newRow("no room calibration") << 21 << QByteArray("cal available inertial_gyro") << QByteArray("no")
+                                         << "No valid room calibration" << false;
+    QTest::newRow("no body calibratable") << 21 << QByteArray("standard number_of_bodies") << QByteArray("0")
+                                          << "No active body with hybrid calibration found" << false;
+    QTest::newRow("cold sensors, a warning") << 21 << QByteArray("inertial warmup_status") << QByteArray("0.9")
+                                             << "Not all sensors have been warmed up, to get a valid calibration please "
+                                                "start the warmup!" << true;
+    QTest::newRow("a body's sensor unreadable") << 21 << QByteArray("body inertial_sensor standard b02") << QByteArray("x")
+                                                << "" << true;
+    QTest::newRow("locked: lock, no reason") << 21 << QByteArray("config is_changeable") << QByteArray("no") << ""
+                                             << false;
+}
+
+void tst_InertialCalibrationDlg::reasons()
+{
+    QFETCH(int, minor);
+    QFETCH(QByteArray, line);
+    QFETCH(QByteArray, answer);
+    QFETCH(QString, reason);
+    QFETCH(bool, usable);
+
+    versions.minor = minor;
+    fake->reply(line, answer);
+    open([&] {
+        QCOMPARE(w<QLabel>("label_error")->text(),
+                 reason.isEmpty() ? QString() : "<b><font color=red>" + reason + "</font></b>");
+        QCOMPARE(w<QLabel>("label_error")->isVisible(), !reason.isEmpty());
+        QCOMPARE(w("pushButton_calibrate")->isEnabled(), usable);
+        QCOMPARE(w<QTableWidget>("tableWidget")->isEnabled(), usable);
+        QCOMPARE(dlg->windowIcon().cacheKey() != parent->windowIcon().cacheKey(), line == "config is_changeable");
+        QTest::keyClick(dlg, Qt::Key_Escape);   // no run: leaves
+        QVERIFY(!dlg->isVisible());
+    });
+    QCOMPARE(fake->message_texts(), answer == "x" ? QStringList{"Could not get sensor of body: standard b02"} : QStringList());
+}
+
+void tst_InertialCalibrationDlg::run_to_residuals()
+{
+    open([&] {
+        QTableWidget* table = w<QTableWidget>("tableWidget");
+        QStringList rows;
+        for (int r = 0; r < table->rowCount(); ++r)
+            rows << QStringList({cell(r, 0)->text(), cell(r, 1)->text(), cell(r, 3)->text(),
+                                 cell(r, 5)->data(Qt::CheckStateRole).toString(), cell(r, 6)->data(Qt::CheckStateRole).toString(),
+                                 QString::number(cell(r, 5)->flags()), QString::number(table->rowHeight(r))}).join(' ');
+        QCOMPARE(rows, QStringList({"101 Norvane left 2 0 48 20", "102 Norvane right 2 0 48 20",
+                                    "103 Norvane standard body 03 0 0 0 20"}));
+        QVERIFY(table->isColumnHidden(1) && table->columnWidth(6) == 80
+                && table->horizontalHeader()->sectionResizeMode(3) == QHeaderView::Stretch);
+        fake->clear_log();
+        calibrate({"cal", "cal", "none"});
+        QCOMPARE(bars, QList<int>({60, 60, 100}));   // 0.5 after 0.6 does not move it back
+        QStringList residuals;
+        for (int r = 0; r < 2; ++r)
+            residuals << cell(r, 4)->text() + (cell(r, 6)->checkState() ? " accept" : "");
+        QCOMPARE(residuals, QStringList({"0.0000", "0.4300 accept"}));
+        QVERIFY(w("pushButton_apply")->isEnabled() && w("pushButton_calibrate")->isEnabled());
+        cell(1, 6)->setCheckState(Qt::Unchecked);   // the user's own click
+        QVERIFY(!w("pushButton_apply")->isEnabled());
+        w<QCheckBox>("checkBox_acceptAll")->setChecked(true);
+        QVERIFY(cell(0, 6)->checkState() && cell(1, 6)->checkState() && w("pushButton_apply")->isEnabled());
+    });
+    const QByteArray progress1 = "inertial sensor_gyro_progress " + S1, progress2 = "inertial sensor_gyro_progress " + S2;
+    const Lines poll1{"inertial sensor_gyro_calibrate " + S1, progress1};
+    const Lines poll2{"inertial sensor_gyro_calibrate " + S2, progress2};
+    const Lines expected = Lines{marked(S1, "yes"), marked(S2, "yes"), marked(S3, "no"),
+                                 "norvane cal inertial_gyro start", "status active"}
+                           + poll1 + Lines{"inertial new_sensor_gyro_residual " + S1} + poll2
+                           + Lines{"status progress", "status active"} + poll1 + poll2
+                           + Lines{"inertial new_sensor_gyro_residual " + S2, "status progress", "status active"}
+                           + poll1 + poll2 + Lines{"status progress"};
+    QCOMPARE(fake->lines(), expected);
+}
+
+void tst_InertialCalibrationDlg::run_endings_data()
+{
+    QTest::addColumn<QString>("action");
+    QTest::addColumn<QByteArray>("stop");       // the reply to stopping
+    QTest::addColumn<int>("stops");
+    QTest::addColumn<bool>("running");
+    QTest::addColumn<int>("bar");
+
+    const QByteArray ok = "norvane ok";
+    QTest::newRow("err ends it") << "err" << ok << 0 << false << 0;
+    QTest::newRow("Cancel stops") << "cancel" << ok << 1 << false << 0;
+    QTest::newRow("Escape acts as Cancel") << "escape" << ok << 1 << false << 0;
+    QTest::newRow("stop refused") << "cancel" << QByteArray("norvane err 7") << 1 << true << 60;
+    QTest::newRow("closing stops nothing") << "close" << ok << 0 << true << 60;
+}
+
+void tst_InertialCalibrationDlg::run_endings()
+{
+    QFETCH(QString, action);
+    QFETCH(QByteArray, stop);
+    QFETCH(int, stops);
+    QFETCH(bool, running);
+    QFETCH(int, bar);
+
+    fake->reply("norvane cal inertial_gyro stop", stop);
+    open([&] {
+        calibrate({"cal"});
+        fake->clear_log();
+        fake->reply("status active", action.toLatin1());
+        if (action == "err") {
+            fake->fail("inertial sensor_gyro_progress " + S2);
+            fake->fail("status progress");
+            tick();
+            QCOMPARE(fake->message_texts(), QStringList({"Could not get progress of calibration of sensor: " + S2,
+                                                         "Could not get progress of calibration"}));
+        } else if (action == "cancel") {
+            w("pushButton_cancel")->click();
+        } else {
+            action == "close" ? (void)dlg->close() : QTest::keyClick(dlg, Qt::Key_Escape);
+        }
+        QCOMPARE(dlg->isVisible(), action != "close");
+        QCOMPARE(w("pushButton_cancel")->isEnabled(), running);
+        QCOMPARE(w("pushButton_exit")->isEnabled(), !running);
+        QCOMPARE(w<QProgressBar>()->value(), bar);
+        if (!running)
+            QCOMPARE(cell(0, 0)->background(), QBrush(Qt::transparent));
+    });
+    QCOMPARE(fake->count("norvane cal inertial_gyro stop"), stops);
+    QCOMPARE(fake->count(marked(S1, "no")), 0);
+}
+
+void tst_InertialCalibrationDlg::apply_data()
+{
+    QTest::addColumn<QByteArray>("residual");   // of S1; 0.0 is not offered for keeping
+    QTest::addColumn<bool>("unmark_fails");
+    QTest::addColumn<Lines>("lines");
+    QTest::addColumn<QStringList>("listed");
+    QTest::addColumn<QStringList>("messages");
+
+    const QByteArray accept = "norvane inertial accept_new_sensor_gyro ";
+    QTest::newRow("one kept, one refused") << QByteArray("0.2") << false << Lines{accept + S1, marked(S1, "no"), accept + S2, marked(S2, "no")}
+                                           << QStringList{"101 Norvane IMU left"}
+                                           << QStringList{"Could not accept new calirabtion of sensor: " + S2};
+    QTest::newRow("unticked, not kept") << QByteArray("0.0") << false << Lines{accept + S2, marked(S2, "no")}
+                                        << QStringList() << QStringList{"Could not accept new calirabtion of sensor: " + S2};
+    QTest::newRow("failed unmark stops") << QByteArray("0.2") << true << Lines{accept + S1, marked(S1, "no")} << QStringList()
+                                         << QStringList{"Could not set calibration of sensor: " + S1};
+}
+
+void tst_InertialCalibrationDlg::apply()
+{
+    QFETCH(QByteArray, residual);
+    QFETCH(bool, unmark_fails);
+    QFETCH(Lines, lines);
+    QFETCH(QStringList, listed);
+    QFETCH(QStringList, messages);
+
+    fake->reply("norvane inertial accept_new_sensor_gyro " + S2, "norvane err 7", 4);
+    if (unmark_fails)
+        fake->fail(marked(S1, "no"));
+    fake->reply("inertial new_sensor_gyro_residual " + S1, residual);
+    QStringList seen;
+    open([&] {
+        calibrate({"cal", "cal", "none"});
+        fake->clear_log();
+        if (!listed.isEmpty())
+            ModalDialogHelper::when_active("InertialCalibrationResultDlg", [&](QWidget* result) {
+                QVERIFY(dlg->cursor().shape() == Qt::WaitCursor);
+                auto* table = result->findChild<QTableWidget*>();
+                for (int r = 0; r < table->rowCount(); ++r)
+                    seen << table->item(r, 0)->text() + ' ' + table->item(r, 1)->text() + ' ' + table->item(r, 2)->text()
+                                + ' ' + table->item(r, 3)->text();
+                QVERIFY(table->isColumnHidden(1));
+                result->findChild<QPushButton*>("pushButton_exit")->click();
+            });
+        w("pushButton_apply")->click();
+        QCOMPARE(dlg->cursor().shape(), Qt::ArrowCursor);
+        QCOMPARE(fake->lines(), lines);
+        QCOMPARE(fake->message_texts(), messages);
+        fake->clear_log();
+        QMetaObject::invokeMethod(dlg, "on_pushButton_apply_clicked");
+        QCOMPARE(fake->lines(), unmark_fails ? lines : Lines());
+    });
+    QCOMPARE(seen, listed);
+}
+
+void tst_InertialCalibrationDlg::warmup()
+{
+    fake->reply("inertial warmup", "yes");
+    fake->reply("inertial warmup_status", "0.42");
+    auto* bar = w<QProgressBar>("progressBar_warmup");
+    auto* warning = w<QLabel>("label_error");
+    open([&] {
+        QVERIFY(bar->isVisible() && bar->value() == 42 && timer(1000)->isActive() && warning->isVisible());
+        fake->reply("inertial warmup", "no");
+        fake->reply("inertial warmup_status", "1.0");
+        fake->clear_log();
+        QMetaObject::invokeMethod(dlg, "warmup_update");
+        QVERIFY(!bar->isVisible() && !timer(1000)->isActive() && !warning->isVisible());
+        QCOMPARE(fake->count("standard number_of_bodies"), 1);   // rebuilt
+    });
+}
+
+QTEST_MAIN(tst_InertialCalibrationDlg)
+#include "tst_InertialCalibrationDlg.moc"
