@@ -30,7 +30,6 @@ private slots:
     void request();
     void calibration_data();
     void calibration();
-    void animation_data();
     void animation();
 
 private:
@@ -38,10 +37,10 @@ private:
     static QString text(QWidget* w, const char* name) { return in<QLabel>(w, name)->text(); }
     // Runs the dialog; `inside` acts in it before it is closed.
     void open(const std::function<void()>& inside);
-    // Calibrates body `index` by `key` (F3 or a click): a run that finishes
-    // unless `button` is empty, its result ended by `button` ("none": no
-    // result). Gives the lines sent, and what the result showed in *shown.
-    Lines calibrate(int index, const B& key, const B& button, QString* shown = nullptr);
+    // Calibrates body `index` by F3: a run that finishes unless `button` is
+    // empty, its result ended by `button` ("none": no result). Gives the
+    // lines sent, and what the result showed in *shown.
+    Lines calibrate(int index, const B& button, QString* shown);
 
     FakeController* fake = nullptr;
     BackendVersions versions;
@@ -158,7 +157,7 @@ void tst_HybridBodyCalibrationDlg::request()
     QCOMPARE(told, selected.isEmpty() ? QStringList() : QStringList{sender + " HybridBodyCalibration 1 reopen"});
 }
 
-Lines tst_HybridBodyCalibrationDlg::calibrate(int index, const B& key, const B& button, QString* shown)
+Lines tst_HybridBodyCalibrationDlg::calibrate(int index, const B& button, QString* shown)
 {
     Lines sent;
     open([=, &sent] {
@@ -184,7 +183,7 @@ Lines tst_HybridBodyCalibrationDlg::calibrate(int index, const B& key, const B& 
                     *shown += ' ' + table->item(i / 3, i % 3)->text();
                 in<QPushButton>(w, button.constData())->click();
             });
-        key == "F3" ? QTest::keyClick(dlg, Qt::Key_F3) : in<QPushButton>(dlg, "pushButton_calibrate")->click();
+        QTest::keyClick(dlg, Qt::Key_F3);   // Calibrate's key
         sent = fake->lines();
     });
     return sent;
@@ -192,7 +191,6 @@ Lines tst_HybridBodyCalibrationDlg::calibrate(int index, const B& key, const B& 
 
 void tst_HybridBodyCalibrationDlg::calibration_data()
 {
-    QTest::addColumn<B>("key");
     QTest::addColumn<int>("index");
     QTest::addColumn<QList<B>>("activity");   // answers of "status active", in turn
     QTest::addColumn<B>("failing");
@@ -219,30 +217,29 @@ void tst_HybridBodyCalibrationDlg::calibration_data()
     const QList<B> usual = {"tracking", "none", "tracking", "tracking", "none"};
     const QString shown = "standard body 0%1|Norvane|IMU 3|0.46|%2|0Hide &details1%3";
     const QString matrix = " 0.1000 0.4000 0.7000 0.2000 0.5000 0.8000 0.3000 0.6000 0.9124", b1 = "1 (left hand)|10231";
-    QTest::newRow("accepted, matrix by columns") << B("click") << 0 << usual << B() << B("pushButton_ok")
+    QTest::newRow("accepted, matrix by columns") << 0 << usual << B() << B("pushButton_ok")
         << run(s, true) + accepted << shown.arg(b1, "12.30", matrix) << QStringList();
-    QTest::newRow("no sensor delay before 1.21") << B("click") << 0 << usual << B("1.20") << B("pushButton_ok")
+    QTest::newRow("no sensor delay before 1.21") << 0 << usual << B("1.20") << B("pushButton_ok")
         << run(s, true) + accepted.mid(1) << shown.arg(b1, "0.00", matrix) << QStringList();
-    QTest::newRow("no result: empty matrix") << B("click") << 0 << usual << "inertial new_sensor_handeye " + s
+    QTest::newRow("no result: empty matrix") << 0 << usual << "inertial new_sensor_handeye " + s
         << B("pushButton_ok") << run(s, true) + accepted << shown.arg(b1, "12.30", QString(9, ' '))
         << QStringList{"Error: Unable to get sensor hybrid calibration result"};
-    QTest::newRow("uncalibrated body discarded: inactive again") << B("click") << 2 << usual << B()
+    QTest::newRow("uncalibrated body discarded: inactive again") << 2 << usual << B()
         << B("pushButton_cancel") << run(s4, false) + result(s4, {"body active standard b04 no"})
         << shown.arg("4 (torso)|10234", "12.30", matrix) << QStringList();
-    QTest::newRow("accept refused: left alone") << B("click") << 2 << usual << "norvane inertial accept_new_sensor_handeye " + s4
+    QTest::newRow("accept refused: left alone") << 2 << usual << "norvane inertial accept_new_sensor_handeye " + s4
         << B("pushButton_ok") << run(s4, false) + result(s4, {"norvane inertial accept_new_sensor_handeye " + s4})
         << shown.arg("4 (torso)|10234", "12.30", matrix) << QStringList();
-    QTest::newRow("residual unknown: dialog hidden") << B("click") << 0 << usual << "inertial new_sensor_handeye_residual " + s
+    QTest::newRow("residual unknown: dialog hidden") << 0 << usual << "inertial new_sensor_handeye_residual " + s
         << B("none") << run(s, true) << "" << QStringList{"Error: Cannot activate hybrid calibration"};
-    QTest::newRow("F3, controller in error") << B("F3") << 0 << QList<B>{"err"} << B() << B()
+    QTest::newRow("controller in error") << 0 << QList<B>{"err"} << B() << B()
         << Lines{active, "inertial sensor_handeye_calibrate " + s + " yes", "body active standard b01 yes", active,
                  "norvane tracking start", active} << "" << QStringList{"Error: Cannot start hybrid calibration"};
-    QTest::newRow("F3 on an inactive body") << B("F3") << 1 << usual << B() << B() << Lines() << "" << QStringList();
+    QTest::newRow("F3 on an inactive body") << 1 << usual << B() << B() << Lines() << "" << QStringList();
 }
 
 void tst_HybridBodyCalibrationDlg::calibration()
 {
-    QFETCH(B, key);
     QFETCH(int, index);
     QFETCH(QList<B>, activity);
     QFETCH(B, failing);
@@ -257,22 +254,13 @@ void tst_HybridBodyCalibrationDlg::calibration()
     else if (!failing.isEmpty())
         fake->fail(failing);
     QString seen;
-    QCOMPARE(calibrate(index, key, button, &seen), lines);
+    QCOMPARE(calibrate(index, button, &seen), lines);
     QCOMPARE(seen, shown);
     QCOMPARE(fake->message_texts(), messages);
 }
 
-void tst_HybridBodyCalibrationDlg::animation_data()
-{
-    QTest::addColumn<bool>("help");
-    QTest::newRow("dialog") << false;
-    QTest::newRow("help") << true;
-}
-
 void tst_HybridBodyCalibrationDlg::animation()
 {
-    QFETCH(bool, help);
-
     QList<int> frames, expected;
     const auto watch = [&](QWidget* w) {
         auto* picture = in<QLabel>(w, "label_graphic");
@@ -285,17 +273,17 @@ void tst_HybridBodyCalibrationDlg::animation()
                     frames << n;
     };
     open([&] {
-        if (!help)
-            return watch(dlg);
-        ModalDialogHelper::when_active("HybridBodyCalibrationHelpDlg", [&](QWidget* w) {
-            watch(w);
-            in<QPushButton>(w, "exitButton")->click();
+        watch(dlg);
+        ModalDialogHelper::when_active("HybridBodyCalibrationHelpDlg", [&](QWidget* help) {
+            watch(help);
+            in<QPushButton>(help, "exitButton")->click();
         });
         in<QPushButton>(dlg, "pushButton_help")->click();
     });
     for (int n = 1; n <= 26; ++n)
         expected << n;
-    QCOMPARE(frames, expected << 1);
+    expected << 1;
+    QCOMPARE(frames, expected + expected);   // the dialog's, then the help's
     QVERIFY(!dlg->findChild<QTimer*>()->isActive());
 }
 
