@@ -135,6 +135,7 @@ void tst_HybridBodyCalibrationDlg::request()
     QFETCH(QString, selected);
 
     fake->reply("tracking available", tracking);
+    fake->reply("status active", "tracking");
     QString shown;
     const auto exit = [&](QWidget*) {
         shown = QStringList{in<QComboBox>(dlg, "comboBox_body")->currentText(), this->text(dlg, "label_deviceId"),
@@ -155,6 +156,7 @@ void tst_HybridBodyCalibrationDlg::request()
     for (const FakeController::Message& m : fake->messages())
         told << QString("%1 %2 %3 %4").arg(m.target, m.source).arg(m.type).arg(m.text);
     QCOMPARE(told, selected.isEmpty() ? QStringList() : QStringList{sender + " HybridBodyCalibration 1 reopen"});
+    QCOMPARE(fake->count("norvane tracking stop"), selected.isEmpty() ? 1 : 2);   // on every closing
 }
 
 Lines tst_HybridBodyCalibrationDlg::calibrate(int index, const B& button, QString* shown)
@@ -165,7 +167,7 @@ Lines tst_HybridBodyCalibrationDlg::calibrate(int index, const B& button, QStrin
         QMetaObject::invokeMethod(dlg, "on_comboBox_body_activated", Q_ARG(int, index));
         if (index == 2)   // never offered for an uncalibrated body: forced to reach what follows
             in<QPushButton>(dlg, "pushButton_calibrate")->setEnabled(true);
-        fake->clear_log();
+        const int opening = fake->lines().size();
         if (!button.isEmpty())
             ModalDialogHelper::when_active("CalibrationProgressDlg", [](QWidget* w) {
                 QMetaObject::invokeMethod(w, "update_cal_status");
@@ -184,7 +186,7 @@ Lines tst_HybridBodyCalibrationDlg::calibrate(int index, const B& button, QStrin
                 in<QPushButton>(w, button.constData())->click();
             });
         QTest::keyClick(dlg, Qt::Key_F3);   // Calibrate's key
-        sent = fake->lines();
+        sent = fake->lines().mid(opening);
     });
     return sent;
 }
@@ -193,7 +195,7 @@ void tst_HybridBodyCalibrationDlg::calibration_data()
 {
     QTest::addColumn<int>("index");
     QTest::addColumn<QList<B>>("activity");   // answers of "status active", in turn
-    QTest::addColumn<B>("failing");
+    QTest::addColumn<B>("failing");   // lines apart by '|', or the version
     QTest::addColumn<B>("button");
     QTest::addColumn<Lines>("lines");
     QTest::addColumn<QString>("shown");
@@ -224,9 +226,11 @@ void tst_HybridBodyCalibrationDlg::calibration_data()
     QTest::newRow("no result: empty matrix") << 0 << usual << "inertial new_sensor_handeye " + s
         << B("pushButton_ok") << run(s, true) + accepted << shown.arg(b1, "12.30", QString(9, ' '))
         << QStringList{"Error: Unable to get sensor hybrid calibration result"};
-    QTest::newRow("uncalibrated body discarded: inactive again") << 2 << usual << B()
-        << B("pushButton_cancel") << run(s4, false) + result(s4, {"body active standard b04 no"})
-        << shown.arg("4 (torso)|10234", "12.30", matrix) << QStringList();
+    QTest::newRow("uncalibrated, unreadable body discarded: inactive again") << 2 << usual
+        << B("body calibrated standard b04|body desc standard b04") << B("pushButton_cancel")
+        << run(s4, false) + result(s4, {"body active standard b04 no"}) << shown.arg("4|10234", "12.30", matrix)
+        << QStringList{"Could not get calibration status of body: standard b04",
+                       "Could not get description of sensor: standard b04"};
     QTest::newRow("accept refused: left alone") << 2 << usual << "norvane inertial accept_new_sensor_handeye " + s4
         << B("pushButton_ok") << run(s4, false) + result(s4, {"norvane inertial accept_new_sensor_handeye " + s4})
         << shown.arg("4 (torso)|10234", "12.30", matrix) << QStringList();
@@ -252,7 +256,8 @@ void tst_HybridBodyCalibrationDlg::calibration()
     if (failing == "1.20")
         versions.minor = 20;
     else if (!failing.isEmpty())
-        fake->fail(failing);
+        for (const B& line : failing.split('|'))
+            fake->fail(line);
     QString seen;
     QCOMPARE(calibrate(index, button, &seen), lines);
     QCOMPARE(seen, shown);
