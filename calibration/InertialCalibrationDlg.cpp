@@ -13,6 +13,7 @@
 #include "InertialCalibrationResultDlg.h"
 #include "module/ControllerChecks.h"
 #include "module/ControllerText.h"
+#include "module/HybridBodyCheck.h"
 #include "module/IOManager.h"
 #include "module/SensorIdentity.h"
 #include "module/VersionGate.h"
@@ -182,24 +183,7 @@ bool InertialCalibrationDlg::is_warmup_active()
 
 bool InertialCalibrationDlg::is_hybrid_body_available()
 {
-    int count = 0;
-    if (io->get_int(&count, "inertial number_of_sensors") != 0)
-        count = 0;
-    count = qMin(count, MaxListIndex);
-    for (int i = 1; i <= count; ++i) {
-        char identity[IOManager::ReplyCapacity] = "";
-        if (io->get_string(identity, "inertial sensor d%.2d", i) != 0) {
-            QMessageBox::information(this, tr("Information"), tr("Could not get informations of sensor %1").arg(i),
-                                     QMessageBox::Ok);
-            continue;
-        }
-        const QByteArray line = ControllerText::latin(ControllerText::reply(identity));
-        char body[IOManager::ReplyCapacity] = "";
-        if (io->get_string(body, "inertial body_of_sensor %s", line.constData()) == 0
-            && ControllerText::reply(body) != None)
-            return true;
-    }
-    return false;
+    return HybridBodyCheck::available(io, this);
 }
 
 double InertialCalibrationDlg::get_warmup_status()
