@@ -1,10 +1,5 @@
 #include "HostHarness.h"
 
-#include <QAction>
-
-#include "host/InProcessLink.h"
-#include "host/LogView.h"
-#include "host/MainWindow.h"
 #include "simulator/ManualClock.h"
 #include "simulator/SimulatedController.h"
 #include "simulator/WallClock.h"
@@ -44,46 +39,4 @@ HostHarness::~HostHarness()
 {
     main_window.reset();
     controller_link.reset();
-}
-
-SimulatedController* HostHarness::simulator() const
-{
-    return controller_link->simulator();
-}
-
-long HostHarness::round_trips() const
-{
-    return controller_link->round_trips();
-}
-
-QAction* HostHarness::action(const QString& text) const
-{
-    return main_window->module_action(text);
-}
-
-QMenu* HostHarness::menu_of(const QString& action_text) const
-{
-    QAction* entry = action(action_text);
-    return entry ? main_window->menu_of(entry) : nullptr;
-}
-
-QList<QWidget*> HostHarness::status_widgets() const
-{
-    return main_window->status_widgets();
-}
-
-QWidget* HostHarness::status_widget() const
-{
-    const QList<QWidget*> widgets = status_widgets();
-    return widgets.isEmpty() ? nullptr : widgets.first();
-}
-
-QStringList HostHarness::messages() const
-{
-    return main_window->message_log()->texts();
-}
-
-void HostHarness::shutdown()
-{
-    main_window->shutdown_modules();
 }
