@@ -1,5 +1,7 @@
 #include "HostHarness.h"
 
+#include <QAction>
+
 #include "simulator/ManualClock.h"
 #include "simulator/SimulatedController.h"
 #include "simulator/WallClock.h"
@@ -39,4 +41,13 @@ HostHarness::~HostHarness()
 {
     main_window.reset();
     controller_link.reset();
+}
+
+QStringList HostHarness::texts(const QList<QAction*>& actions)
+{
+    QStringList result;
+    for (const QAction* action : actions)
+        if (!action->isSeparator())
+            result << action->text() + (action->isEnabled() ? "" : " (off)");
+    return result;
 }

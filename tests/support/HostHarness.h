@@ -69,6 +69,9 @@ public:
     // What quitting does: the modules stop and destroy their widgets.
     void shutdown() { main_window->shutdown_modules(); }
 
+    // Texts of menu bar entries or menu entries, " (off)" after disabled ones.
+    static QStringList texts(const QList<QAction*>& actions);
+
 private:
     std::unique_ptr<InProcessLink> controller_link;
     std::unique_ptr<MainWindow> main_window;
