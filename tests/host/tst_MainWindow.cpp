@@ -248,12 +248,14 @@ void tst_MainWindow::messages_and_traffic()
 
 void tst_MainWindow::tour_of_odd_entries()
 {
+    // An entry that opens nothing, and one whose dialog ignores being
+    // finished: only hiding it ends its modal loop.
     RecordingModule* odd = module(QStringLiteral("Odd"));
     odd->add_entry("&Tools", 400, "&...", 1);
     connect(odd->add_entry("&Tools", 400, "&Filter (6DOF)...", 2), &QAction::triggered, window.get(), [this] {
         struct : QDialog
         {
-            void done(int) override {}   // only hiding ends its modal loop
+            void done(int) override {}
         } stubborn;
         stubborn.setParent(window.get(), Qt::Dialog);
         stubborn.exec();
