@@ -315,6 +315,7 @@ pulse by a sensor on no body: with "tracking_pulse": {"source": "inertial_sensor
 calibration without steps: load {"calibrations": {"x": {"steps": []}}} -> calibrations.x.steps: must hold 1 to 9 steps
 fault of unknown kind: load {"faults": [{"line": "x", "kind": "explode"}]}
  -> faults[0].kind: must be fail, late, garbage, silent or hang_up
+garbage beyond a mebibyte: load {"faults": [{"line": "x", "kind": "garbage", "length": 1048577}]} -> faults[0].length: must be a whole number from 0 to 1048576
 fault text with a quote: load {"faults": [{"line": "x", "kind": "fail", "text": "a\"b"}]}
  -> faults[0].text: must not contain a double quote
 extends a missing file: load {"extends": "no_such_scenario.json"} -> extends: cannot read
