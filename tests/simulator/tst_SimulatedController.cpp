@@ -299,6 +299,7 @@ serial used twice: with "waiting_sensors": [{"serial": "10231", "channel": 35}] 
 serial with quotes: with "sensors": [{"serial": "'1'", "cable": true}]
  -> sensors[0]: vendor, model and serial are written without quotes
 unknown transceiver: with "sensors": [{"serial": "1", "transceiver": "79999"}] -> sensors[0].transceiver: no transceiver 79999
+waiting radio sensor without channel: load {"waiting_sensors": [{"serial": "1"}]} -> waiting_sensors[0].channel: a sensor waiting
 radio sensor without transceiver: load {"sensors": [{"serial": "1"}]} -> sensors[0]: a radio sensor needs a transceiver
 channel outside the band: load {"transceivers": [{"serial": "1", "channel": 90}]}
  -> transceivers[0].channel: channel 90 is not among its channels
