@@ -129,7 +129,7 @@ bool ScenarioLoader::load(const QByteArray& json, qint64 now_ms, SimModel* model
     if (!read_object(root, "tracking_pulse", QString(), &o) || !read_pulse(o, &m))
         return false;
     QList<SimFault> injected;
-    if (!read_array(root, "faults", QString(), &a) || !read_faults(a, &injected))
+    if (!read_array(root, "faults", QString(), &a) || !read_faults(a, now_ms, &injected))
         return false;
 
     *model = m;
@@ -695,7 +695,7 @@ bool ScenarioLoader::read_pulse(const QJsonObject& o, SimModel* m)
     return true;
 }
 
-bool ScenarioLoader::read_faults(const QJsonArray& list, QList<SimFault>* faults)
+bool ScenarioLoader::read_faults(const QJsonArray& list, qint64 now_ms, QList<SimFault>* faults)
 {
     static const QHash<QString, SimFault::Kind> kinds = {
         {"fail", SimFault::Fail},       {"late", SimFault::Late},     {"garbage", SimFault::Garbage},
@@ -731,7 +731,7 @@ bool ScenarioLoader::read_faults(const QJsonArray& list, QList<SimFault>* faults
             return fail(at(path, "text"), "must not contain a double quote");
         f.kind = kinds.value(QString::fromLatin1(kind));
         f.match = matches.value(QString::fromLatin1(how));
-        f.after_ms = qint64(after_s * 1000.0);
+        f.after_ms = now_ms + qint64(after_s * 1000.0);
         faults->append(f);
     }
     return true;

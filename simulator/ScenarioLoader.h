@@ -45,7 +45,7 @@ private:
     bool read_body(const QJsonObject& o, const QString& path, bool wand, const SimModel& m,
                    SimModel::Body* b);
     bool read_pulse(const QJsonObject& o, SimModel* m);
-    bool read_faults(const QJsonArray& list, QList<SimFault>* faults);
+    bool read_faults(const QJsonArray& list, qint64 now_ms, QList<SimFault>* faults);
 
     // Typed reads of an optional key: absent leaves *value as it is, a wrong
     // type or an absurd value is an error naming the key.

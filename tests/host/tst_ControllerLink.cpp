@@ -1,554 +1,421 @@
 #include <QtTest>
 
 #include <QTemporaryDir>
+#include <QThread>
 
-#include "ModalDialogHelper.h"
 #include "ScriptedLink.h"
+#include "ScriptedTcpController.h"
+#include "host/InProcessLink.h"
 #include "host/MessageHub.h"
+#include "host/TcpLink.h"
 #include "module/MessageReceiver.h"
+#include "simulator/ManualClock.h"
+#include "simulator/SimulatedController.h"
 
-namespace {
-
-constexpr char Canary = char(0x5A);
-
-// A reply buffer of the size callers declare, followed by guard bytes that
-// nothing may ever write.
-struct GuardedBuffer
-{
-    char bytes[IOManager::ReplyCapacity + 32];
-    GuardedBuffer() { std::fill(std::begin(bytes), std::end(bytes), Canary); }
-    char* data() { return bytes; }
-    bool untouched() const
-    {
-        return std::all_of(std::begin(bytes), std::end(bytes), [](char c) { return c == Canary; });
-    }
-    bool guard_intact() const
-    {
-        return std::all_of(bytes + IOManager::ReplyCapacity, std::end(bytes),
-                           [](char c) { return c == Canary; });
-    }
-};
-
-QByteArray answer(const QByteArray& path, const QByteArray& value)
-{
-    return "norvane set " + path + ' ' + value;
-}
-
-} // namespace
-
+// The link's rules for every IOManager call on a scripted transport; the
+// in-process simulator's faults turned into the same failures; over TCP one
+// connection while all goes well, a fresh one after a reply that came late,
+// cut short or without end, and fast failures while the controller is gone.
 class tst_ControllerLink : public QObject
 {
     Q_OBJECT
 
 private slots:
-    void cleanup();
-    void requestLines_data();
-    void requestLines();
-    void integers_data();
-    void integers();
-    void reals_data();
-    void reals();
-    void flags_data();
-    void flags();
-    void numberLists_data();
-    void numberLists();
-    void integerLists();
-    void unusableCountIsRefused_data();
-    void unusableCountIsRefused();
-    void textCapacity_data();
-    void textCapacity();
-    void settings_data();
-    void settings();
-    void rawCommandReturnsWholeReply_data();
-    void rawCommandReturnsWholeReply();
-    void refusedRequestsSendNothing_data();
-    void refusedRequestsSendNothing();
-    void asynchronousCommand();
-    void asynchronousCommandTooLong();
-    void uncollectedReplyIsDiscarded();
-    void completionWithoutCommand();
-    void asynchronousModeLastsOneCommand();
-    void timeoutHoldsUntilEventLoop();
-    void roundTripsCountLinesSent();
-    void traceHasEveryExchange();
-    void messagesGoToHub();
+    void replies_data();
+    void replies();
+    void asynchronous_command_and_timeouts();
+    void trace();
+    void messages_by_receiver_name();
+    void in_process_faults();
+    void parse_address_data();
+    void parse_address();
+    void tcp();
 };
 
-void tst_ControllerLink::cleanup()
+namespace {
+
+constexpr int Unset = -7777;
+
+// Calls what `call` names ("int", "ints 2", "string", "set", "command LINE",
+// ...) on the path "p" or the setting "p yes"; shows what the caller got: its
+// value(s), or "-" when nothing was written.
+QString perform(ControllerLink& link, const QByteArray& call, int* result)
 {
-    QCOMPARE(ModalDialogHelper::pending(), 0);
-    QCOMPARE(ModalDialogHelper::leaked_windows(), QStringList());
-}
-
-void tst_ControllerLink::requestLines_data()
-{
-    QTest::addColumn<int>("operation");
-    QTest::addColumn<QByteArray>("line");
-
-    QTest::newRow("query with index") << 0 << QByteArray("norvane get inertial sensor d07");
-    QTest::newRow("setting with real") << 1 << QByteArray("norvane set inertial frequency 100.000000");
-    QTest::newRow("raw command as it stands") << 2 << QByteArray("norvane inertial scan_sensors");
-    QTest::newRow("setting with text") << 3
-                                       << QByteArray("norvane set body desc standard b03 \"left hand\"");
-}
-
-void tst_ControllerLink::requestLines()
-{
-    QFETCH(int, operation);
-    QFETCH(QByteArray, line);
-    ScriptedLink link;
-    char reply[IOManager::ReplyCapacity];
-    switch (operation) {
-    case 0: link.get_string(reply, "inertial sensor d%02d", 7); break;
-    case 1: link.set_value("inertial frequency %f", 100.0); break;
-    case 2: link.send_command(reply, "norvane inertial scan_sensors"); break;
-    case 3: link.set_value("body desc standard b%02d \"%s\"", 3, "left hand"); break;
-    }
-    QCOMPARE(link.written(), QList<QByteArray>{line});
-}
-
-void tst_ControllerLink::integers_data()
-{
-    QTest::addColumn<QByteArray>("reply");
-    QTest::addColumn<int>("result");
-    QTest::addColumn<int>("value");
-
-    const QByteArray path = "inertial number_of_sensors";
-    QTest::newRow("plain") << answer(path, "5") << 0 << 5;
-    QTest::newRow("blanks around") << answer(path, " 7 ") << 0 << 7;
-    QTest::newRow("negative") << answer(path, "-1") << 0 << -1;
-    QTest::newRow("trailing garbage") << answer(path, "5x") << int(ControllerLink::MalformedReply) << -99;
-    QTest::newRow("first of two numbers") << answer(path, "5 6") << 0 << 5;
-    QTest::newRow("beyond int") << answer(path, "2147483648") << int(ControllerLink::MalformedReply) << -99;
-    QTest::newRow("empty value") << QByteArray("norvane set inertial number_of_sensors")
-                                 << int(ControllerLink::MalformedReply) << -99;
-    QTest::newRow("other path") << answer("inertial number_of_transceivers", "2")
-                                << int(ControllerLink::MalformedReply) << -99;
-    QTest::newRow("path prefix only") << answer("inertial number_of_sensorsX", "2")
-                                      << int(ControllerLink::MalformedReply) << -99;
-    QTest::newRow("error reply") << QByteArray("norvane err 12 \"no such parameter\"")
-                                 << int(ControllerLink::ControllerError) << -99;
-    QTest::newRow("garbage") << QByteArray("\x01\x02garbage") << int(ControllerLink::MalformedReply) << -99;
-}
-
-void tst_ControllerLink::integers()
-{
-    QFETCH(QByteArray, reply);
-    QFETCH(int, result);
-    QFETCH(int, value);
-    ScriptedLink link;
-    link.reply("norvane get inertial number_of_sensors", reply);
-    int got = -99;
-    QCOMPARE(link.get_int(&got, "inertial number_of_sensors"), result);
-    QCOMPARE(got, value);
-    QCOMPARE(QByteArray(link.last_error()).isEmpty(), result == 0);
-}
-
-void tst_ControllerLink::reals_data()
-{
-    QTest::addColumn<QByteArray>("value");
-    QTest::addColumn<int>("result");
-    QTest::addColumn<double>("expected");
-
-    QTest::newRow("fraction") << QByteArray("0.999") << 0 << 0.999;
-    QTest::newRow("exponent") << QByteArray("1e3") << 0 << 1000.0;
-    QTest::newRow("integer") << QByteArray("42") << 0 << 42.0;
-    QTest::newRow("first of two") << QByteArray("27.0 36.0") << 0 << 27.0;
-    QTest::newRow("first is bad") << QByteArray("27.0x 36.0") << int(ControllerLink::MalformedReply) << -1.0;
-    QTest::newRow("not a number") << QByteArray("nan") << int(ControllerLink::MalformedReply) << -1.0;
-    QTest::newRow("infinite") << QByteArray("inf") << int(ControllerLink::MalformedReply) << -1.0;
-    QTest::newRow("comma decimal") << QByteArray("0,5") << int(ControllerLink::MalformedReply) << -1.0;
-    QTest::newRow("word") << QByteArray("warm") << int(ControllerLink::MalformedReply) << -1.0;
-}
-
-void tst_ControllerLink::reals()
-{
-    QFETCH(QByteArray, value);
-    QFETCH(int, result);
-    QFETCH(double, expected);
-    ScriptedLink link;
-    link.reply("norvane get inertial warmup_status", answer("inertial warmup_status", value));
-    double got = -1.0;
-    QCOMPARE(link.get_double(&got, "inertial warmup_status"), result);
-    QCOMPARE(got, expected);
-}
-
-void tst_ControllerLink::flags_data()
-{
-    QTest::addColumn<QByteArray>("value");
-    QTest::addColumn<int>("result");
-    QTest::addColumn<int>("expected");   // -1: untouched
-
-    QTest::newRow("yes") << QByteArray("yes") << 0 << 1;
-    QTest::newRow("no") << QByteArray("no") << 0 << 0;
-    QTest::newRow("capital") << QByteArray("Yes") << int(ControllerLink::MalformedReply) << -1;
-    QTest::newRow("none") << QByteArray("none") << int(ControllerLink::MalformedReply) << -1;
-    QTest::newRow("number") << QByteArray("1") << int(ControllerLink::MalformedReply) << -1;
-}
-
-void tst_ControllerLink::flags()
-{
-    QFETCH(QByteArray, value);
-    QFETCH(int, result);
-    QFETCH(int, expected);
-    ScriptedLink link;
-    const QByteArray path = "body calibrated standard b01";
-    link.reply("norvane get " + path, answer(path, value));
-    // Start from the opposite of what is expected so that a write shows.
-    bool got = expected != 1;
-    const bool before = got;
-    QCOMPARE(link.get_bool(&got, "body calibrated standard b%02d", 1), result);
-    QCOMPARE(got, expected < 0 ? before : expected == 1);
-}
-
-void tst_ControllerLink::numberLists_data()
-{
-    QTest::addColumn<QByteArray>("value");
-    QTest::addColumn<int>("result");
-
-    QTest::newRow("two numbers") << QByteArray("1.0 1000.0") << 0;
-    QTest::newRow("more than asked") << QByteArray("1.0 1000.0 7") << 0;
-    QTest::newRow("repeated blanks") << QByteArray(" 1.0   1000.0 ") << 0;
-    QTest::newRow("one missing") << QByteArray("1.0") << int(ControllerLink::MalformedReply);
-    QTest::newRow("second bad") << QByteArray("1.0 lots") << int(ControllerLink::MalformedReply);
-    QTest::newRow("empty") << QByteArray() << int(ControllerLink::MalformedReply);
-}
-
-void tst_ControllerLink::numberLists()
-{
-    QFETCH(QByteArray, value);
-    QFETCH(int, result);
-    ScriptedLink link;
-    link.reply("norvane get inertial limit frequency", answer("inertial limit frequency", value));
-    double limits[2] = {-5.0, -5.0};
-    QCOMPARE(link.get_doubles(limits, 2, "inertial limit frequency"), result);
-    if (result == 0) {
-        QCOMPARE(limits[0], 1.0);
-        QCOMPARE(limits[1], 1000.0);
-    } else {
-        // Never half filled.
-        QCOMPARE(limits[0], -5.0);
-        QCOMPARE(limits[1], -5.0);
-    }
-}
-
-void tst_ControllerLink::integerLists()
-{
-    ScriptedLink link;
-    link.reply("norvane get a", answer("a", "3 4"));
-    link.reply("norvane get b", answer("b", "3 4.5"));
-    int values[2] = {0, 0};
-    QCOMPARE(link.get_ints(values, 2, "a"), 0);
-    QCOMPARE(values[0], 3);
-    QCOMPARE(values[1], 4);
-    QCOMPARE(link.get_ints(values, 2, "b"), int(ControllerLink::MalformedReply));
-    QCOMPARE(values[0], 3);
-}
-
-void tst_ControllerLink::unusableCountIsRefused_data()
-{
-    QTest::addColumn<int>("count");
-    QTest::newRow("zero") << 0;
-    QTest::newRow("negative") << -3;
-    QTest::newRow("two billion") << 2000000000;
-}
-
-void tst_ControllerLink::unusableCountIsRefused()
-{
-    QFETCH(int, count);
-    ScriptedLink link;
-    double value = 0;
-    QCOMPARE(link.get_doubles(&value, count, "inertial limit frequency"),
-             int(ControllerLink::InvalidRequest));
-    int number = 0;
-    QCOMPARE(link.get_ints(&number, count, "inertial limit frequency"),
-             int(ControllerLink::InvalidRequest));
-    QVERIFY(link.written().isEmpty());
-    QVERIFY(QByteArray(link.last_error()).contains("values"));
-}
-
-void tst_ControllerLink::textCapacity_data()
-{
-    QTest::addColumn<int>("length");
-    QTest::addColumn<int>("result");
-
-    QTest::newRow("empty") << 0 << 0;
-    QTest::newRow("fits exactly") << IOManager::ReplyCapacity - 1 << 0;
-    QTest::newRow("one too many") << int(IOManager::ReplyCapacity) << int(ControllerLink::ReplyTooLong);
-    QTest::newRow("far too long") << 5000 << int(ControllerLink::ReplyTooLong);
-}
-
-void tst_ControllerLink::textCapacity()
-{
-    QFETCH(int, length);
-    QFETCH(int, result);
-    ScriptedLink link;
-    const QByteArray text(length, 'v');
-    link.reply("norvane get body desc standard b01", answer("body desc standard b01", text));
-    GuardedBuffer buffer;
-    QCOMPARE(link.get_string(buffer.data(), "body desc standard b%02d", 1), result);
-    QVERIFY(buffer.guard_intact());
-    if (result == 0)
-        QCOMPARE(QByteArray(buffer.data()), text);
+    const QByteArray op = call.split(' ').first();
+    const int count = qBound(1, call.split(' ').value(1).toInt(), 2);
+    QByteArray text(IOManager::ReplyCapacity + 16, 'Z');
+    int ints[2] = {Unset, Unset};
+    double reals[2] = {Unset, Unset};
+    bool flags[2] = {false, true};
+    if (op == "int" || op == "ints")
+        *result = op == "int" ? link.get_int(ints, "%s", "p") : link.get_ints(ints, call.split(' ')[1].toInt(), "p");
+    else if (op == "double" || op == "doubles")
+        *result = op == "double" ? link.get_double(reals, "p") : link.get_doubles(reals, call.split(' ')[1].toInt(), "p");
+    else if (op == "bool")
+        *result = link.get_bool(&flags[0], "%s", "p") | link.get_bool(&flags[1], "p");
+    else if (op == "string")
+        *result = link.get_string(text.data(), "%s", "p");
+    else if (op == "set")
+        *result = link.set_value("p %s", "yes");
     else
-        QVERIFY2(buffer.untouched(), "a failed reply must write nothing");
+        *result = link.send_command(text.data(), "%s", call.mid(op.size() + 1).constData());
+
+    QStringList got;
+    for (int i = 0; i < count; ++i)
+        got << (ints[i] != Unset ? QString::number(ints[i]) : reals[i] != Unset ? QString::number(reals[i]) : "");
+    if (!text.endsWith(QByteArray(16, 'Z')))
+        return QStringLiteral("overrun");
+    if (text.at(0) != 'Z')
+        return QString::fromLatin1(text.constData());
+    if (op == "bool" && flags[0] == flags[1])
+        return QLatin1String(flags[0] ? "yes" : "no");
+    return got.join(' ').trimmed().isEmpty() ? QStringLiteral("-") : got.join(' ');
 }
 
-void tst_ControllerLink::settings_data()
+} // namespace
+
+void tst_ControllerLink::replies_data()
 {
-    QTest::addColumn<QByteArray>("reply");
+    QTest::addColumn<QByteArray>("call");
+    QTest::addColumn<QByteArray>("reply");   // "=V" is "norvane set p V"; empty: none comes
     QTest::addColumn<int>("result");
+    QTest::addColumn<QString>("got");
     QTest::addColumn<QString>("error");
-
-    QTest::newRow("acknowledged") << QByteArray("norvane ok") << 0 << QString();
-    QTest::newRow("ok with trailing blank") << QByteArray("norvane ok ")
-                                            << int(ControllerLink::MalformedReply)
-                                            << QString("norvane ok");
-    QTest::newRow("refused with text") << QByteArray("norvane err 3 \"value out of range\"")
-                                       << int(ControllerLink::ControllerError)
-                                       << QString("error 3: value out of range");
-    QTest::newRow("refused without text") << QByteArray("norvane err 17")
-                                          << int(ControllerLink::ControllerError)
-                                          << QString("error 17");
-    QTest::newRow("echo instead of ack") << QByteArray("norvane set inertial warmup yes")
-                                         << int(ControllerLink::MalformedReply) << QString("norvane ok");
+    const auto row = [](const char* name, const char* call, const QByteArray& reply, int result, const QString& got,
+                        const QByteArray& error = "") {
+        QTest::newRow(name) << QByteArray(call) << reply << result << got << QString::fromLatin1(error);
+    };
+    using L = ControllerLink;
+    row("int", "int", "= -5 ", 0, "-5");
+    row("first of two ints", "int", "=5 6", 0, "5");
+    row("int with garbage", "int", "=5x", L::MalformedReply, "-", "\"5x\" is not a number");
+    row("garbage shown up to 60 characters", "int", "=" + QByteArray(61, 'x'), L::MalformedReply, "-",
+        "\"" + QByteArray(60, 'x') + "...\" is not");
+    row("garbage of 60 characters shown whole", "int", "=" + QByteArray(60, 'x'), L::MalformedReply, "-",
+        "x\" is not a number");
+    row("no value", "int", "norvane set p", L::MalformedReply, "-", "expected a number, got \"\"");
+    row("reply to another path", "int", "norvane set q 2", L::MalformedReply, "-", "expected \"norvane set p ...\"");
+    row("reply to a longer path", "int", "norvane set pX 2", L::MalformedReply, "-");
+    row("error reply", "int", "norvane err 12 \"no such parameter\"", L::ControllerError, "-",
+        "the controller refused the request (error 12: no such parameter)");
+    row("error reply without text", "int", "norvane err 17", L::ControllerError, "-", "(error 17)");
+    row("not even an error reply", "int", "norvane err", L::ControllerError, "-", "(norvane err)");
+    row("no reply", "int", "", L::TimedOut, "-", "no reply");
+    row("first of two reals", "double", "=27.5 36.0", 0, "27.5");
+    row("infinite", "double", "=inf", L::MalformedReply, "-");
+    row("yes", "bool", "=yes", 0, "yes");
+    row("no", "bool", "= no", 0, "no");
+    row("capital Yes", "bool", "=Yes", L::MalformedReply, "-", "\"Yes\" is neither yes nor no");
+    row("two reals", "doubles 2", "=1.0 1000.0", 0, "1 1000");
+    row("a real missing", "doubles 2", "=1.0", L::MalformedReply, "-", "expected 2 numbers, got \"1.0\"");
+    row("second real bad: none written", "doubles 2", "=1.0 lots", L::MalformedReply, "-");
+    row("two ints", "ints 2", "=3 4", 0, "3 4");
+    row("no values asked", "doubles 0", "=1", L::InvalidRequest, "-", "cannot read 0 values at once");
+    row("most values", "ints 1024", "=1 2", L::MalformedReply, "-", "expected 1024 numbers");
+    row("too many values", "ints 1025", "=1", L::InvalidRequest, "-");
+    row("empty text", "string", "=", 0, "");
+    row("text that just fits", "string", "=" + QByteArray(255, 'v'), 0, QString(255, 'v'));
+    row("text one too long", "string", "=" + QByteArray(256, 'v'), L::ReplyTooLong, "-",
+        "reply of 256 characters does not fit the 256-byte buffer");
+    row("setting", "set", "norvane ok", 0, "-");
+    row("setting: ok and more", "set", "norvane ok ", L::MalformedReply, "-", "expected \"norvane ok\"");
+    row("setting refused", "set", "norvane err 3 \"out of range\"", L::ControllerError, "-", "(error 3: out of range)");
+    row("command", "command norvane go", "norvane set p yes 5", 0, "norvane set p yes 5");
+    row("command refused: text for the caller", "command norvane go", "norvane err 5 \"marker lost\"",
+        L::ControllerError, "norvane err 5 \"marker lost\"");
+    row("command reply too long", "command norvane go", QByteArray(400, 'k'), L::ReplyTooLong, "-");
+    row("not a command", "command inertial go", "", L::InvalidRequest, "-", "a command starts with \"norvane\"");
+    row("line break inside", "command norvane a\nnorvane b", "", L::InvalidRequest, "-", "request holds a line break");
+    row("longest line", "command norvane " + QByteArray(L::MaxLineLength - 8, 'x'), "norvane ok", 0, "norvane ok");
+    row("line too long", "command norvane " + QByteArray(L::MaxLineLength - 7, 'x'), "", L::InvalidRequest, "-",
+        "request of 65537 bytes is too long");
 }
 
-void tst_ControllerLink::settings()
+void tst_ControllerLink::replies()
 {
+    QFETCH(QByteArray, call);
     QFETCH(QByteArray, reply);
     QFETCH(int, result);
+    QFETCH(QString, got);
     QFETCH(QString, error);
     ScriptedLink link;
-    link.reply("norvane set inertial warmup yes", reply);
-    QCOMPARE(link.set_value("inertial warmup yes"), result);
-    QVERIFY2(QString::fromLocal8Bit(link.last_error()).contains(error), link.last_error());
+    const QByteArray request = call.startsWith("command ") ? call.mid(8)
+                               : call == "set"              ? QByteArray("norvane set p yes")
+                                                            : QByteArray("norvane get p");
+    if (!reply.isEmpty())
+        link.reply(request, reply.startsWith('=') ? "norvane set p " + reply.mid(1) : reply);
+    int answer = Unset;
+    QCOMPARE(perform(link, call, &answer), got);
+    QCOMPARE(answer, result);
+    QCOMPARE(link.written().value(0), result == ControllerLink::InvalidRequest ? QByteArray() : request);
+    QCOMPARE(link.round_trips(), long(link.written().size()));
+    QCOMPARE(QByteArray(link.last_error()).isEmpty(), result == 0);
+    QVERIFY2(QString::fromLatin1(link.last_error()).contains(error), link.last_error());
 }
 
-void tst_ControllerLink::rawCommandReturnsWholeReply_data()
-{
-    QTest::addColumn<QByteArray>("reply");
-    QTest::addColumn<int>("result");
-
-    QTest::newRow("acknowledged") << QByteArray("norvane ok") << 0;
-    QTest::newRow("value of a get form")
-        << QByteArray("norvane set cal step_pause inertial_twostep s01 yes 5") << 0;
-    QTest::newRow("error text for the caller")
-        << QByteArray("norvane err 5 \"marker lost\"") << int(ControllerLink::ControllerError);
-}
-
-void tst_ControllerLink::rawCommandReturnsWholeReply()
-{
-    QFETCH(QByteArray, reply);
-    QFETCH(int, result);
-    ScriptedLink link;
-    link.reply("norvane get status err", reply);
-    GuardedBuffer buffer;
-    QCOMPARE(link.send_command(buffer.data(), "norvane get status err"), result);
-    QCOMPARE(QByteArray(buffer.data()), reply);
-    QVERIFY(buffer.guard_intact());
-}
-
-void tst_ControllerLink::refusedRequestsSendNothing_data()
-{
-    QTest::addColumn<QByteArray>("command");
-    QTest::newRow("not a command") << QByteArray("inertial scan_sensors");
-    QTest::newRow("line break inside") << QByteArray("norvane tracking start\nnorvane tracking stop");
-    QTest::newRow("carriage return") << QByteArray("norvane tracking start\r");
-    QTest::newRow("empty") << QByteArray();
-    QTest::newRow("longer than a line may be")
-        << QByteArray("norvane ") + QByteArray(ControllerLink::MaxLineLength, 'x');
-}
-
-void tst_ControllerLink::refusedRequestsSendNothing()
-{
-    QFETCH(QByteArray, command);
-    ScriptedLink link;
-    GuardedBuffer buffer;
-    QCOMPARE(link.send_command(buffer.data(), "%s", command.constData()),
-             int(ControllerLink::InvalidRequest));
-    QVERIFY(link.written().isEmpty());
-    QVERIFY(buffer.untouched());
-    QCOMPARE(link.round_trips(), 0L);
-}
-
-void tst_ControllerLink::asynchronousCommand()
+void tst_ControllerLink::asynchronous_command_and_timeouts()
 {
     ScriptedLink link;
-    link.reply("norvane inertial scan_sensors", "norvane ok");
-    GuardedBuffer buffer;
+    link.reply("norvane scan", "norvane ok");
+    link.reply("norvane get n", "norvane set n 3");
+    link.reply("norvane long", QByteArray(400, 'k'));
+    const QByteArray untouched(IOManager::ReplyCapacity, 'Z');
+    QByteArray buffer = untouched;
+    QByteArray abandoned = untouched;
+    int status = Unset;
+    int n = 0;
     link.set_timeout(true, 20000, true);
     QCOMPARE(link.current_timeout(), 20000);
-    QCOMPARE(link.send_command(buffer.data(), "norvane inertial scan_sensors"),
-             int(ControllerLink::Pending));
+    QCOMPARE(link.send_command(buffer.data(), "norvane scan"), int(ControllerLink::Pending));
     QVERIFY(link.is_blocked());
-    QVERIFY(buffer.untouched());
-    QCOMPARE(link.written(), QList<QByteArray>{"norvane inertial scan_sensors"});
-
-    int status = 0;
+    QCOMPARE(buffer, untouched);
     QCOMPARE(link.wait_for_completion(&status), 0);
     QCOMPARE(status, 0);
-    QCOMPARE(QByteArray(buffer.data()), QByteArray("norvane ok"));
+    QCOMPARE(buffer.constData(), "norvane ok");
     QVERIFY(!link.is_blocked());
-    QCOMPARE(link.round_trips(), 1L);
-}
+    QCOMPARE(link.send_command(buffer.data(), "norvane scan"), 0);   // asynchronous for one command only
 
-void tst_ControllerLink::asynchronousCommandTooLong()
-{
-    ScriptedLink link;
-    link.reply("norvane inertial scan_sensors", QByteArray(400, 'k'));
-    GuardedBuffer buffer;
+    // A reply nobody collected is read and thrown away, never written late.
     link.set_timeout(true, 20000, true);
-    QCOMPARE(link.send_command(buffer.data(), "norvane inertial scan_sensors"),
-             int(ControllerLink::Pending));
-    int status = 0;
-    QCOMPARE(link.wait_for_completion(&status), int(ControllerLink::ReplyTooLong));
-    QCOMPARE(status, int(ControllerLink::ReplyTooLong));
-    QVERIFY(buffer.untouched());
-}
-
-void tst_ControllerLink::uncollectedReplyIsDiscarded()
-{
-    ScriptedLink link;
-    link.reply("norvane inertial scan_sensors", "norvane ok");
-    link.reply("norvane get inertial number_of_scanned_sensors",
-               answer("inertial number_of_scanned_sensors", "3"));
-    GuardedBuffer buffer;
-    link.set_timeout(true, 20000, true);
-    QCOMPARE(link.send_command(buffer.data(), "norvane inertial scan_sensors"),
-             int(ControllerLink::Pending));
-    int count = 0;
-    QCOMPARE(link.get_int(&count, "inertial number_of_scanned_sensors"), 0);
-    QCOMPARE(count, 3);
-    QVERIFY2(buffer.untouched(), "the abandoned reply must not be written late");
+    QCOMPARE(link.send_command(abandoned.data(), "norvane scan"), int(ControllerLink::Pending));
+    QCOMPARE(link.get_int(&n, "n"), 0);
+    QCOMPARE(n, 3);
     QVERIFY(!link.is_blocked());
-    int status = 0;
-    QCOMPARE(link.wait_for_completion(&status), int(ControllerLink::InvalidRequest));
-}
-
-void tst_ControllerLink::completionWithoutCommand()
-{
-    ScriptedLink link;
-    int status = 0;
     QCOMPARE(link.wait_for_completion(&status), int(ControllerLink::InvalidRequest));
     QCOMPARE(status, int(ControllerLink::InvalidRequest));
-    QVERIFY(link.written().isEmpty());
-}
-
-void tst_ControllerLink::asynchronousModeLastsOneCommand()
-{
-    ScriptedLink link;
-    link.reply("norvane inertial scan_sensors", "norvane ok");
-    char reply[IOManager::ReplyCapacity];
     link.set_timeout(true, 20000, true);
-    QCOMPARE(link.send_command(reply, "norvane inertial scan_sensors"), int(ControllerLink::Pending));
-    int status = 0;
-    QCOMPARE(link.wait_for_completion(&status), 0);
-    QCOMPARE(link.send_command(reply, "norvane inertial scan_sensors"), 0);
+    QCOMPARE(link.send_command(abandoned.data(), "norvane long"), int(ControllerLink::Pending));
+    QCOMPARE(link.wait_for_completion(nullptr), int(ControllerLink::ReplyTooLong));
+    QCOMPARE(abandoned, untouched);
+    QCOMPARE(link.round_trips(), 5L);
 
-    // Asked for but not used by its handler: gone once back in the event loop.
+    // Asked for by a handler: over once control is back in the event loop.
     link.set_timeout(true, 20000, true);
     QCoreApplication::processEvents();
-    QCOMPARE(link.send_command(reply, "norvane inertial scan_sensors"), 0);
-}
-
-void tst_ControllerLink::timeoutHoldsUntilEventLoop()
-{
-    ScriptedLink link;
-    link.reply("norvane set inertial warmup yes", "norvane ok");
-    QCOMPARE(link.current_timeout(), int(ControllerLink::DefaultTimeoutMs));
+    QCOMPARE(link.send_command(buffer.data(), "norvane scan"), 0);
     link.set_timeout(false, 10000, true);
-    QCOMPARE(link.set_value("inertial warmup yes"), 0);
-    QCOMPARE(link.set_value("inertial warmup yes"), 0);
+    QCOMPARE(link.get_int(&n, "n"), 0);
     QCOMPARE(link.current_timeout(), 10000);
     QCoreApplication::processEvents();
     QCOMPARE(link.current_timeout(), int(ControllerLink::DefaultTimeoutMs));
     link.set_default_timeout(1500);
+    link.set_timeout(false, 1, true);
+    QCOMPARE(link.current_timeout(), 1);
+    QCoreApplication::processEvents();
     QCOMPARE(link.current_timeout(), 1500);
+    link.set_default_timeout(0);
+    QCOMPARE(link.current_timeout(), int(ControllerLink::DefaultTimeoutMs));
 }
 
-void tst_ControllerLink::roundTripsCountLinesSent()
-{
-    ScriptedLink link;
-    link.reply("norvane get inertial available", answer("inertial available", "yes"));
-    QSignalSpy spy(&link, &ControllerLink::round_trips_changed);
-    char reply[IOManager::ReplyCapacity];
-    link.get_string(reply, "inertial available");
-    link.get_string(reply, "inertial available");
-    link.get_string(reply, "inertial unknown");          // went out, no reply
-    link.send_command(reply, "tracking start");          // refused, never sent
-    link.refuse_writes(true);
-    link.get_string(reply, "inertial available");        // could not go out
-    QCOMPARE(link.round_trips(), 3L);
-    QCOMPARE(spy.count(), 3);
-}
-
-void tst_ControllerLink::traceHasEveryExchange()
+void tst_ControllerLink::trace()
 {
     QTemporaryDir dir;
-    QVERIFY(dir.isValid());
-    const QString path = dir.filePath("trace.txt");
     ScriptedLink link;
     QString error;
-    QVERIFY2(link.open_trace(path, &error), qPrintable(error));
-    link.reply("norvane get inertial available", answer("inertial available", "yes"));
-    QSignalSpy spy(&link, &ControllerLink::traced);
+    QVERIFY(!link.open_trace(dir.filePath("missing/trace.txt"), &error));
+    QVERIFY2(error.startsWith("Cannot write the trace file " + dir.filePath("missing/trace.txt")), qPrintable(error));
+    QVERIFY2(link.open_trace(dir.filePath("trace.txt"), &error), qPrintable(error));
+    link.reply("norvane get a", "norvane set a yes");
+    QSignalSpy traced(&link, &ControllerLink::traced);
+    QSignalSpy trips(&link, &ControllerLink::round_trips_changed);
     char reply[IOManager::ReplyCapacity];
-    link.get_string(reply, "inertial available");
-    link.get_string(reply, "inertial frequency");
-    link.send_command(reply, "tracking start");
-
-    QCOMPARE(spy.count(), 3);
-    QCOMPARE(spy.at(0).at(1).toBool(), false);
-    QCOMPARE(spy.at(1).at(1).toBool(), true);
-    const QString first = spy.at(0).at(0).toString();
-    QVERIFY2(first.contains("norvane get inertial available  ->  norvane set inertial available yes"),
+    link.get_string(reply, "a");
+    link.get_string(reply, "b");                 // goes out, never answered
+    link.send_command(reply, "tracking start");  // refused, never sent
+    link.refuse_writes(true);
+    link.get_string(reply, "a");                 // cannot go out
+    QCOMPARE(trips.count(), 2);
+    QCOMPARE(trips.at(1).at(0).value<long>(), 2L);
+    QStringList lines;
+    for (const QList<QVariant>& signal : traced)
+        lines << signal.at(0).toString().section(QStringLiteral("ms  "), 1) + (signal.at(1).toBool() ? " (failed)" : "");
+    QCOMPARE(lines, QStringList({"norvane get a  ->  norvane set a yes", "norvane get b  ->  (no reply)  [no reply] (failed)",
+                                 "tracking start  ->  (no reply)  [a command starts with \"norvane\"] (failed)",
+                                 "norvane get a  ->  (no reply)  [transport refused] (failed)"}));
+    const QString first = traced.at(0).at(0).toString();
+    QVERIFY2(QRegularExpression("^\\d\\d:\\d\\d:\\d\\d\\.\\d{3} +\\d+\\.\\d{3} ms  norvane").match(first).hasMatch(),
              qPrintable(first));
-    QVERIFY2(QRegularExpression(" \\d+\\.\\d{3} ms ").match(first).hasMatch(), qPrintable(first));
-    QVERIFY(spy.at(1).at(0).toString().contains("(no reply)  [no reply]"));
-    QVERIFY(spy.at(2).at(0).toString().contains("starts with \"norvane\""));
+    QFile file(dir.filePath("trace.txt"));
+    QVERIFY(file.open(QIODevice::ReadOnly));
+    QCOMPARE(file.readAll().split('\n').value(3), traced.at(3).at(0).toString().toUtf8());
 
-    QFile file(path);
-    QVERIFY(file.open(QIODevice::ReadOnly | QIODevice::Text));
-    const QStringList lines = QString::fromUtf8(file.readAll()).split('\n', Qt::SkipEmptyParts);
-    QCOMPARE(lines.size(), 3);
-    QCOMPARE(lines.at(0), first);
-
-    QVERIFY(!link.open_trace(dir.filePath("missing/folder/trace.txt"), &error));
-    QVERIFY(error.contains("missing/folder"));
 }
 
-namespace {
-
-struct RecordingReceiver : MessageReceiver
+void tst_ControllerLink::messages_by_receiver_name()
 {
-    QStringList texts;
-    int transmit_message(int, const char*, const char* text) override
+    struct Receiver : MessageReceiver
     {
-        texts << QString::fromLatin1(text);
-        return 0;
-    }
-};
-
-} // namespace
-
-void tst_ControllerLink::messagesGoToHub()
-{
+        QStringList texts;
+        int transmit_message(int type, const char* sender, const char* text) override
+        {
+            texts << QStringLiteral("%1 %2 %3").arg(type).arg(sender ? sender : "(null)", text)
+                         + (QThread::currentThread() == qApp->thread() ? "" : " off the GUI thread");
+            return 0;
+        }
+    } first, second;
     ScriptedLink link;
     MessageHub hub;
     link.set_message_hub(&hub);
-    RecordingReceiver receiver;
-    link.register_receiver("InertialModule", &receiver);
     QSignalSpy standard(&hub, &MessageHub::standard_message);
-    link.show_message("standard", "Norvane", 1, "Could not get warmup status");
-    link.show_message("InertialModule", "HybridBodyCalibration", 1, "reopen");
-    link.unregister_receiver("InertialModule", &receiver);
-    link.show_message("InertialModule", "HybridBodyCalibration", 1, "reopen");
+    QSignalSpy notes(&hub, &MessageHub::note);
+    link.register_receiver("standard", &first);   // the user's name: never a module's
+    link.register_receiver("InertialModule", &first);
+    link.register_receiver("InertialModule", &first);
+    link.register_receiver("", &first);
+    link.show_message("standard", "Norvane", 1, "Error: Unable to set frequency");
+    link.show_message("InertialModule", nullptr, 0, "reopen");
+    link.register_receiver("InertialModule", &second);
+    link.unregister_receiver("InertialModule", &first);   // not its name any more
+    link.show_message("InertialModule", "x", 1, "to the newer one");
+    link.unregister_receiver("InertialModule", &second);
+    link.show_message("InertialModule", nullptr, 1, "nobody");
+    // From another thread: delivered on the GUI thread, the receiver looked
+    // up only then, so that one unregistered meanwhile is never called.
+    link.register_receiver("InertialModule", &first);
+    link.register_receiver("Gone", &second);
+    std::unique_ptr<QThread> poster(QThread::create([&link] {
+        link.show_message("InertialModule", "Elsewhere", 1, "posted");
+        link.show_message("standard", "Elsewhere", 1, "from a worker");
+        link.show_message("Gone", "Elsewhere", 1, "too late");
+    }));
+    poster->start();
+    QVERIFY(poster->wait(5000));
+    QCOMPARE(first.texts.size(), 1);
+    link.unregister_receiver("Gone", &second);
+    QTRY_COMPARE(notes.count(), 4);
+    QCOMPARE(standard.count(), 2);
+    QCOMPARE(standard.at(0), QList<QVariant>({"Norvane", 1, "Error: Unable to set frequency"}));
+    QCOMPARE(first.texts, QStringList({"0 (null) reopen", "1 Elsewhere posted"}));
+    QCOMPARE(second.texts, QStringList{"1 x to the newer one"});
+    QStringList remarks;
+    for (const QList<QVariant>& note : notes)
+        remarks << note.at(0).toString();
+    QCOMPARE(remarks, QStringList({"Ignored the registration of a message receiver without name or object.",
+                                   "The message receiver \"InertialModule\" was registered again; the newer one gets its "
+                                   "messages.",
+                                   "No receiver \"InertialModule\" for the message from (unnamed): nobody",
+                                   "No receiver \"Gone\" for the message from Elsewhere: too late"}));
+}
 
-    QCOMPARE(standard.count(), 1);
-    QCOMPARE(standard.at(0).at(2).toString(), QStringLiteral("Could not get warmup status"));
-    QCOMPARE(receiver.texts, QStringList{"reopen"});
-    QVERIFY(link.written().isEmpty());
+void tst_ControllerLink::in_process_faults()
+{
+    InProcessLink link(std::make_unique<ManualClock>());
+    QString error;
+    QVERIFY2(link.simulator()->load_scenario(R"({"extends": "default", "faults": [
+        {"line": "norvane get inertial number_of_sensors", "kind": "hang_up", "times": 1},
+        {"line": "norvane get inertial warmup", "kind": "late", "delay_ms": 150},
+        {"line": "norvane get inertial frequency", "kind": "late", "delay_ms": 401},
+        {"line": "norvane get inertial available", "kind": "silent"}]})", &error), qPrintable(error));
+    QSignalSpy connection(&link, &ControllerLink::connection_changed);
+    int count = Unset;
+    QCOMPARE(link.get_int(&count, "inertial number_of_sensors"), int(ControllerLink::TransportFailure));
+    QCOMPARE(link.last_error(), "the controller closed the connection in the middle of a reply");
+    QCOMPARE(link.get_int(&count, "inertial number_of_sensors"), 0);
+    QCOMPARE(count, 5);
+    QCOMPARE(connection.count(), 2);
+    // Late and silent replies take as long as they would over the wire, and
+    // without real delays no time at all.
+    link.set_default_timeout(400);
+    char reply[IOManager::ReplyCapacity];
+    const char* paths[] = {"inertial warmup", "inertial frequency", "inertial available"};
+    const QString outcomes[] = {"0 ", "3 reply 401 ms late, beyond the time-out", "3 no reply within the time-out"};
+    const int waits[] = {150, 400, 400};
+    for (const bool real : {true, false}) {
+        link.set_real_delays(real);
+        for (int i = 0; i < 3; ++i) {
+            QElapsedTimer clock;
+            clock.start();
+            QCOMPARE(QStringLiteral("%1 %2").arg(link.get_string(reply, paths[i])).arg(link.last_error()), outcomes[i]);
+            QVERIFY2(real ? clock.elapsed() >= waits[i] - 10 && clock.elapsed() < 1500 : clock.elapsed() < 100, paths[i]);
+        }
+    }
+
+    QCOMPARE(link.description(), QStringLiteral("simulated controller (default scenario)"));
+    QVERIFY(!link.load_scenario_file(QStringLiteral("/nowhere/missing.json"), &error));
+    QCOMPARE(link.description(), QStringLiteral("simulated controller (default scenario)"));
+    QVERIFY2(link.load_scenario_file(QStringLiteral(SCENARIO_DIR "/old_controller.json"), &error), qPrintable(error));
+    QCOMPARE(link.description(), QStringLiteral("simulated controller (old_controller.json)"));
+    QCOMPARE(link.get_string(reply, "system version"), 0);
+    QCOMPARE(reply, "1.15.3");
+}
+
+void tst_ControllerLink::parse_address_data()
+{
+    QTest::addColumn<QString>("text");
+    QTest::addColumn<QString>("parsed");   // "host port", empty when refused
+
+    QTest::newRow("name and highest port") << "localhost:65535" << "localhost 65535";
+    QTest::newRow("bracketed IPv6") << "[::1]:1" << "::1 1";
+    QTest::newRow("bare IPv6") << "::1:4000" << "";
+    QTest::newRow("no port") << "localhost" << "";
+    QTest::newRow("port zero") << "localhost:0" << "";
+    QTest::newRow("port too large") << "localhost:65536" << "";
+    QTest::newRow("no host") << ":4000" << "";
+}
+
+void tst_ControllerLink::parse_address()
+{
+    QFETCH(QString, text);
+    QFETCH(QString, parsed);
+    QString host;
+    quint16 port = 0;
+    const bool ok = TcpLink::parse_address(text, &host, &port);
+    QCOMPARE(ok ? QStringLiteral("%1 %2").arg(host).arg(port) : QString(), parsed);
+    if (ok)
+        QCOMPARE(TcpLink(host, port).address(), text);
+}
+
+void tst_ControllerLink::tcp()
+{
+    ScriptedTcpController controller;
+    QVERIFY(controller.start());
+    controller.reply("norvane get a", "norvane set a yes");
+    controller.reply("norvane get long", "norvane set long " + QByteArray(600, 'x'));
+    controller.script("norvane get endless", QByteArray(ControllerLink::MaxLineLength + 10, 'g'));
+    controller.script("norvane get cut", "norvane set cut 1", 0, true);
+    controller.script("norvane get late", "norvane set late 5\n", 300);
+    controller.script("norvane get silent", "");
+    controller.script("norvane scan", "norvane ok\n", 100);
+    TcpLink link(QStringLiteral("127.0.0.1"), controller.port());
+    QSignalSpy connection(&link, &ControllerLink::connection_changed);
+    char reply[IOManager::ReplyCapacity] = "";
+    const auto ask = [&link, &reply](const char* path) {
+        const int result = link.get_string(reply, "%s", path);
+        return QStringLiteral("%1 %2").arg(result).arg(result ? link.last_error() : reply);
+    };
+    // A reply too long for the buffer was still read whole: the next is in step.
+    QCOMPARE(ask("long"), "6 reply of 600 characters does not fit the 256-byte buffer");
+    QCOMPARE(ask("a"), "0 yes");
+    QCOMPARE(controller.connections(), 1);
+    QCOMPARE(connection.count(), 1);
+    // Whatever leaves the stream out of step takes the connection with it.
+    link.set_timeout(false, 2000, false);
+    QCOMPARE(ask("endless"), "6 reply longer than 65536 bytes without a line end");
+    QCOMPARE(ask("cut"), "2 the controller closed the connection in the middle of a reply");
+    link.set_timeout(false, 200, false);
+    QElapsedTimer clock;
+    clock.start();
+    QCOMPARE(ask("silent"), "3 no reply within 200 ms");
+    QVERIFY(clock.elapsed() >= 190);
+    QCOMPARE(ask("late"), "3 no reply within 200 ms");
+    QCOMPARE(ask("a"), "0 yes");
+    QCOMPARE(controller.connections(), 5);
+    link.set_timeout(true, 20000, true);
+    QCOMPARE(link.send_command(reply, "norvane scan"), int(ControllerLink::Pending));
+    QCOMPARE(link.wait_for_completion(nullptr), 0);
+    QCOMPARE(reply, "norvane ok");
+
+    // The controller gone: a failed attempt, then failures at once until the
+    // retry interval is over.
+    const int changes = connection.count();
+    controller.stop();
+    QTRY_COMPARE(connection.count(), changes + 1);
+    QVERIFY(ask("a").startsWith("2 cannot connect to the controller at 127.0.0.1:"));
+    QVERIFY(controller.start(controller.port()));
+    QVERIFY(ask("a").startsWith("2 no connection to the controller at 127.0.0.1:"));
+    link.set_retry_interval(0);
+    QCOMPARE(ask("a"), "0 yes");
+    QVERIFY(link.is_connected());
 }
 
 QTEST_MAIN(tst_ControllerLink)

@@ -1,185 +1,103 @@
 #include <QtTest>
 
 #include <QAction>
-#include <QFileInfo>
-#include <QMenu>
+#include <QLibraryInfo>
 #include <QMenuBar>
 #include <QStatusBar>
 
 #include "HostHarness.h"
-#include "ModalDialogHelper.h"
-#include "host/InProcessLink.h"
-#include "host/MainWindow.h"
 #include "host/MessageHub.h"
-#include "module/ModuleInterface.h"
+#include "module/BackendVersions.h"
 
-// norvane-host with the real plug-in from the build, on the in-process
-// simulator: what a user sees after start-up and after quitting.
+// norvane-host with the plug-in from the build on the simulator: what a user
+// sees from start-up to quitting, and on the tour.
 class tst_HostWithPlugin : public QObject
 {
     Q_OBJECT
 
 private slots:
-    void cleanup();
-    void entriesUnderTheirMenus_data();
-    void entriesUnderTheirMenus();
-    void calibrationEntriesInOrder();
-    void menuBarOrder();
-    void statusWidgetInStatusBar();
-    void versionsReachTheModule();
-    void startUpRoundTrips();
-    void loadsFromPluginFolder();
-    void quitStopsAndDestroys();
+    void from_a_plugin_folder_to_quitting();
+    void tour_from_the_command_line();
 };
 
-namespace {
-
-HostHarness::Options with_plugin()
+void tst_HostWithPlugin::from_a_plugin_folder_to_quitting()
 {
-    HostHarness::Options options;
-    options.plugin_file = QStringLiteral(PLUGIN_FILE);
-    return options;
-}
+    QTemporaryDir dir;
+    // Beside the plug-in: one of another host (it loads, but offers another
+    // interface), a file that is no library at all, and one not even tried.
+    QVERIFY(QFile::copy(QLibraryInfo::location(QLibraryInfo::PluginsPath) + "/platforms/libqminimal.so",
+                        dir.filePath("libforeign.so")));
+    QVERIFY(QFile::copy(QStringLiteral(PLUGIN_FILE), dir.filePath("libinertial.so")));
+    for (const char* name : {"libgarbage.so", "readme.txt"}) {
+        QFile file(dir.filePath(name));
+        QVERIFY(file.open(QIODevice::WriteOnly) && file.write("not a library") > 0);
+    }
+    HostHarness host(HostHarness::Options{});
+    QCOMPARE(host.error(), QStringLiteral("no plug-in file given"));
+    MainWindow* window = host.window();
+    QCOMPARE(window->load_modules_from(dir.filePath("nowhere")), 0);
+    QCOMPARE(window->load_modules_from(dir.path()), 1);
+    QVERIFY(window->load_module_file(dir.filePath("libinertial.so")));   // loaded once only
+    QCOMPARE(window->modules().size(), 1);
+    const QStringList problems = window->module_problems();
+    QCOMPARE(problems.size(), 3);
+    QVERIFY2(problems.at(1).startsWith("libforeign.so is not a module of this host: it offers \"org.qt-project.Qt.QPA.")
+                 && problems.at(1).endsWith("\", not \"" ModuleInterface_iid "\""),
+             qPrintable(problems.at(1)));
+    QVERIFY2(problems.at(2).startsWith("libgarbage.so cannot be loaded: ") && problems.at(2).size() > 40,
+             qPrintable(problems.at(2)));
+    const QStringList log = host.messages();
+    QCOMPARE(log.mid(log.size() - 5),
+             QStringList({"The plug-in folder " + dir.filePath("nowhere") + " does not exist.",
+                          "No module found in " + dir.filePath("nowhere") + '.', problems.at(1), problems.at(2),
+                          "Loaded GUI Inertial Tracking v1.3.1 from libinertial.so."}));
 
-QStringList menu_titles(const QMenuBar* bar)
-{
-    QStringList titles;
-    for (const QAction* action : bar->actions())
-        titles << action->text();
-    return titles;
-}
-
-} // namespace
-
-void tst_HostWithPlugin::cleanup()
-{
-    QCOMPARE(ModalDialogHelper::pending(), 0);
-    ModalDialogHelper::clear_pending();
-    QCOMPARE(ModalDialogHelper::leaked_windows(), QStringList());
-}
-
-void tst_HostWithPlugin::entriesUnderTheirMenus_data()
-{
-    QTest::addColumn<QString>("entry");
-    QTest::addColumn<QString>("menu");
-    QTest::addColumn<QString>("tip");
-
-    QTest::newRow("settings") << "In&ertial Sensor" << "&Settings" << "Change the Inertial Sensor settings";
-    QTest::newRow("hybrid body") << "&Hybrid Body" << "&Calibration" << "Calibrate a Hybrid Body";
-    QTest::newRow("sensor calibration") << "In&ertial Sensor Calibration" << "&Calibration"
-                                        << "Calibrate a inertial sensor";
-}
-
-void tst_HostWithPlugin::entriesUnderTheirMenus()
-{
-    QFETCH(QString, entry);
-    QFETCH(QString, menu);
-    QFETCH(QString, tip);
-    HostHarness host(with_plugin());
-    QVERIFY2(host.ok(), qPrintable(host.error()));
-    QAction* action = host.action(entry);
-    QVERIFY2(action, qPrintable(entry));
-    QMenu* holder = host.menu_of(entry);
-    QVERIFY(holder);
-    QCOMPARE(holder->title(), menu);
-    QCOMPARE(action->statusTip(), tip);
-    QVERIFY(holder->menuAction()->isEnabled());
-    // The module's menu joins the host's own rather than making a second.
-    int same_title = 0;
-    for (const QAction* top : host.window()->menuBar()->actions())
-        same_title += top->text() == menu ? 1 : 0;
-    QCOMPARE(same_title, 1);
-}
-
-void tst_HostWithPlugin::calibrationEntriesInOrder()
-{
-    HostHarness host(with_plugin());
-    QVERIFY2(host.ok(), qPrintable(host.error()));
-    QStringList texts;
-    for (const QAction* action : host.menu_of("&Hybrid Body")->actions())
-        texts << action->text();
-    QCOMPARE(texts, QStringList({"In&ertial Sensor Calibration", "&Hybrid Body"}));
-    QCOMPARE(host.window()->module_actions().size(), 3);
-}
-
-void tst_HostWithPlugin::menuBarOrder()
-{
-    HostHarness host(with_plugin());
-    QVERIFY2(host.ok(), qPrintable(host.error()));
-    QCOMPARE(menu_titles(host.window()->menuBar()),
+    QStringList entries;
+    for (QAction* action : window->module_actions())
+        entries << host.menu_of(action->text())->title() + ' ' + action->text() + ": " + action->statusTip();
+    QCOMPARE(entries, QStringList({"&Settings In&ertial Sensor: Change the Inertial Sensor settings",
+                                   "&Calibration In&ertial Sensor Calibration: Calibrate a inertial sensor",
+                                   "&Calibration &Hybrid Body: Calibrate a Hybrid Body"}));
+    QCOMPARE(HostHarness::texts(window->menuBar()->actions()),
              QStringList({"&File", "&Settings", "&Calibration", "&Help"}));
-}
-
-void tst_HostWithPlugin::statusWidgetInStatusBar()
-{
-    HostHarness host(with_plugin());
-    QVERIFY2(host.ok(), qPrintable(host.error()));
-    QCOMPARE(host.status_widgets().size(), 1);
-    QWidget* widget = host.status_widget();
-    QCOMPARE(widget->metaObject()->className(), "InertialStatusBar");
-    QCOMPARE(widget->parentWidget(), host.window()->statusBar());
-    QVERIFY(!widget->isHidden());
-}
-
-void tst_HostWithPlugin::versionsReachTheModule()
-{
-    HostHarness host(with_plugin());
-    QVERIFY2(host.ok(), qPrintable(host.error()));
-    const BackendVersions* versions = host.window()->backend_versions();
-    // The default scenario's controller is the newest: every gate open.
-    QVERIFY(versions->major > 1 || (versions->major == 1 && versions->minor >= 21));
-    QVERIFY(!versions->system_type.isEmpty());
-    QVERIFY(host.window()->message_hub()->receiver(QStringLiteral("InertialModule")));
-}
-
-void tst_HostWithPlugin::startUpRoundTrips()
-{
-    HostHarness host(with_plugin());
-    QVERIFY2(host.ok(), qPrintable(host.error()));
-    // Three for the version record; the rest is what the module asks while
-    // building its widgets, and building must stay cheap.
-    const long trips = host.round_trips();
-    qInfo("round trips to open the main window: %ld", trips);
-    QVERIFY2(trips >= 3 && trips <= 12, qPrintable(QString::number(trips)));
-}
-
-void tst_HostWithPlugin::loadsFromPluginFolder()
-{
-    HostHarness host(HostHarness::Options{});   // no plug-in file
-    QVERIFY(!host.ok());
-    QCOMPARE(host.window()->module_actions().size(), 0);
-    QVERIFY(!host.window()->menuBar()->actions().at(1)->isEnabled());   // empty Settings
-
-    const QString folder = QFileInfo(QStringLiteral(PLUGIN_FILE)).absolutePath();
-    QCOMPARE(host.window()->load_modules_from(folder), 1);
-    QCOMPARE(host.window()->module_actions().size(), 3);
-    QCOMPARE(host.status_widgets().size(), 1);
-    QVERIFY(host.window()->menuBar()->actions().at(1)->isEnabled());
-    QVERIFY2(host.messages().filter("Loaded GUI Inertial Tracking v1.3.1").size() == 1,
-             qPrintable(host.messages().join('\n')));
-}
-
-void tst_HostWithPlugin::quitStopsAndDestroys()
-{
-    HostHarness host(with_plugin());
-    QVERIFY2(host.ok(), qPrintable(host.error()));
     QPointer<QWidget> status = host.status_widget();
-    QList<QPointer<QWidget>> dialogs;
-    for (QObject* child : host.window()->children())
-        if (auto* widget = qobject_cast<QWidget*>(child); widget && widget->isWindow())
-            dialogs << widget;
-    QVERIFY(!dialogs.isEmpty());
+    QCOMPARE(host.status_widgets().size(), 1);
+    QCOMPARE(status->metaObject()->className(), "InertialStatusBar");
+    QCOMPARE(status->parentWidget(), window->statusBar());
+    QVERIFY(window->message_hub()->receiver_names().contains("InertialModule"));
+    QCOMPARE(window->backend_versions()->minor, 21);   // the newest controller: every gate open
+    // Three for the version record, the rest while the module builds its widgets.
+    QVERIFY2(host.round_trips() >= 3 && host.round_trips() <= 12, qPrintable(QString::number(host.round_trips())));
 
-    host.window()->close();
-    QVERIFY(!status);
-    for (const QPointer<QWidget>& dialog : dialogs)
-        QVERIFY(!dialog);
-    QVERIFY(host.window()->message_hub()->receiver_names().isEmpty());
-    QVERIFY(host.window()->module_actions().isEmpty());
-    QVERIFY(host.window()->modules().isEmpty());
-    QVERIFY(!host.window()->menuBar()->actions().at(2)->isEnabled());   // Calibration empty again
-    // Nothing still registered was left for the host to clear up.
+    QPointer<QObject> module = dynamic_cast<QObject*>(window->modules().first());
+    window->close();
+    QVERIFY(!status && !module);
+    QVERIFY(window->message_hub()->receiver_names().isEmpty() && window->module_actions().isEmpty());
+    QCOMPARE(HostHarness::texts(window->menuBar()->actions()),
+             QStringList({"&File", "&Settings (off)", "&Calibration (off)", "&Help"}));
     QVERIFY2(host.messages().filter("Still registered").isEmpty(), qPrintable(host.messages().join('\n')));
+}
+
+void tst_HostWithPlugin::tour_from_the_command_line()
+{
+    QTemporaryDir dir;
+    QProcess norvane_host;
+    norvane_host.setWorkingDirectory(dir.path());
+    norvane_host.start(QStringLiteral(HOST_FILE), {"--tour", "pictures", "--trace", "trace.txt", "--speed", "50"});
+    QVERIFY(norvane_host.waitForFinished(60000));
+    QCOMPARE(norvane_host.exitCode(), 0);
+    QCOMPARE(norvane_host.readAllStandardOutput(), "Saved 4 pictures into " + dir.filePath("pictures").toUtf8() + '\n');
+    QCOMPARE(QDir(dir.filePath("pictures")).entryList(QDir::Files),
+             QStringList({"hybrid-body.png", "inertial-sensor-calibration.png", "inertial-sensor.png", "main-window.png"}));
+    QFile trace(dir.filePath("trace.txt"));
+    QVERIFY(trace.open(QIODevice::ReadOnly));
+    QVERIFY(trace.readLine().endsWith("ms  norvane get system version  ->  norvane set system version 1.21.2\n"));
+
+    norvane_host.start(norvane_host.program(), {"--speed", "0"});
+    QVERIFY(norvane_host.waitForFinished(60000));
+    QCOMPARE(norvane_host.exitCode(), 2);
+    QVERIFY(norvane_host.readAllStandardError().endsWith(
+        "norvane-host: --speed wants a factor above 0 and up to 10000, not \"0\"\nnorvane-host: see norvane-host --help\n"));
 }
 
 QTEST_MAIN(tst_HostWithPlugin)

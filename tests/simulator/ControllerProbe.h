@@ -7,34 +7,31 @@
 #include "simulator/ManualClock.h"
 #include "simulator/SimulatedController.h"
 
-// The devices of the default scenario, by the identities the controller
-// gives them.
-namespace DefaultDevices {
-extern const QByteArray S1;   // on body 1, hand-eye calibrated: the hybrid body
-extern const QByteArray S2;   // on body 2
-extern const QByteArray S3;   // asleep, in tap mode
-extern const QByteArray S4;   // on no body, low battery, no storage, at most 100 Hz
-extern const QByteArray S5;   // on cable, on body 4
-extern const QByteArray T1;   // channel 35, channels measured
-extern const QByteArray T2;   // channel 55, not measured yet
-}
-
-// A simulated controller on a clock the test moves, asked the way the
-// plug-in asks: a query's value comes back without the repeated path.
+// A simulated controller on a clock the test moves, talked to in scripts of
+// steps separated by '|':
+//   PATH = VALUE      "norvane get PATH" is answered "norvane set PATH VALUE"
+//   LINE -> REPLY     "norvane LINE" is answered REPLY ("ok", "set ..." and
+//                     "err ..." start with "norvane ", "err N" alone stands for
+//                     any text); a delay, silence or hang-up follows as
+//                     " (after N ms)", " (no answer)", " (hangs up)"
+//   +SECONDS          time passes
+//   load SCENARIO     an example file (NAME.json) or JSON; "load X -> TEXT"
+//                     fails with TEXT in the error; "with KEYS" loads the
+//                     default scenario with these keys changed
+// $S1..$S5 and $T1, $T2 are the default scenario's sensors and transceivers:
+// S1 on body 1 (hybrid), S2 on body 2, S3 asleep in tap mode, S4 on no body
+// with a low battery, S5 on cable; T1 on channel 35 (measured), T2 on 55.
 class ControllerProbe
 {
 public:
-    explicit ControllerProbe(qint64 start_ms = 0);
+    ControllerProbe();
 
-    // The whole reply line.
-    QByteArray ask(const QByteArray& line);
-    // The value of "norvane get PATH", or the unexpected reply in <>.
-    QByteArray value(const QByteArray& path);
-    // The first number of that value; -999 when there is none.
-    double number(const QByteArray& path);
-    // Loads a scenario, reporting why not.
-    bool load(const QByteArray& json);
-    bool load_file(const QString& path);
+    // "" when every step went as written, else the first one that did not.
+    QString run(const QByteArray& script);
+    QByteArray ask(const QByteArray& line) { return controller.handle(expand(line)).line; }
+    static QByteArray expand(QByteArray text);
+    // A _data table of scripts from "name: script" lines; indented lines go on.
+    static void rows(const char* table);
 
     ManualClock clock;
     SimulatedController controller;

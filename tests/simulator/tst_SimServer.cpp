@@ -3,257 +3,112 @@
 #include <QProcess>
 #include <QTcpSocket>
 
-#include <memory>
+#include "host/TcpLink.h"
 
-#include "simulator/ManualClock.h"
-#include "simulator/SimServer.h"
-#include "simulator/SimulatedController.h"
-
-// The simulated controller behind TCP, as the host's TCP link and the
-// norvane-simd daemon meet it on loopback.
+// norvane-simd as its clients meet it: lines over TCP from several clients,
+// the faults of its scenario on the wire, and the host's TCP link.
 class tst_SimServer : public QObject
 {
     Q_OBJECT
 
 private slots:
-    void init();
-    void cleanup();
-    void answers_requests();
-    void clients_share_one_controller();
-    void late_reply_keeps_order();
-    void silent_request_gets_no_reply();
-    void hang_up_mid_reply();
-    void overlong_line_is_refused();
     void daemon();
-    void daemon_refuses_bad_arguments_data();
-    void daemon_refuses_bad_arguments();
-
-private:
-    bool start(const QByteArray& scenario = QByteArray());
-    std::unique_ptr<QTcpSocket> connect_client();
-
-    ManualClock clock;
-    std::unique_ptr<SimulatedController> controller;
-    std::unique_ptr<SimServer> server;
 };
-
-namespace {
-
-// Drives the event loop until a whole line is there; the server runs in
-// this thread, so blocking waits would starve it.
-bool wait_for_line(QTcpSocket& socket, int timeout_ms = 3000)
-{
-    QElapsedTimer timer;
-    timer.start();
-    while (!socket.canReadLine() && timer.elapsed() < timeout_ms)
-        QCoreApplication::processEvents(QEventLoop::WaitForMoreEvents, 20);
-    return socket.canReadLine();
-}
-
-QByteArray read_line(QTcpSocket& socket)
-{
-    if (!wait_for_line(socket))
-        return "<no reply>";
-    return socket.readLine().chopped(1);
-}
-
-QByteArray exchange(QTcpSocket& socket, const QByteArray& line)
-{
-    socket.write(line + '\n');
-    return read_line(socket);
-}
-
-} // namespace
-
-void tst_SimServer::init()
-{
-    controller.reset(new SimulatedController(&clock));
-}
-
-void tst_SimServer::cleanup()
-{
-    server.reset();
-    controller.reset();
-}
-
-bool tst_SimServer::start(const QByteArray& scenario)
-{
-    if (!scenario.isEmpty()) {
-        QString error;
-        if (!controller->load_scenario(scenario, &error)) {
-            qWarning("%s", qPrintable(error));
-            return false;
-        }
-    }
-    server.reset(new SimServer(controller.get()));
-    QString error;
-    if (!server->listen(QHostAddress::LocalHost, 0, &error)) {
-        qWarning("%s", qPrintable(error));
-        return false;
-    }
-    return true;
-}
-
-std::unique_ptr<QTcpSocket> tst_SimServer::connect_client()
-{
-    std::unique_ptr<QTcpSocket> socket(new QTcpSocket);
-    socket->connectToHost(QHostAddress::LocalHost, server->port());
-    QElapsedTimer timer;
-    timer.start();
-    while (socket->state() != QAbstractSocket::ConnectedState && timer.elapsed() < 3000)
-        QCoreApplication::processEvents(QEventLoop::WaitForMoreEvents, 20);
-    return socket;
-}
-
-void tst_SimServer::answers_requests()
-{
-    QVERIFY(start());
-    auto socket = connect_client();
-    QCOMPARE(socket->state(), QAbstractSocket::ConnectedState);
-    QCOMPARE(exchange(*socket, "norvane get system version"), QByteArray("norvane set system version 1.21.2"));
-    QCOMPARE(exchange(*socket, "norvane get inertial number_of_sensors\r"),
-             QByteArray("norvane set inertial number_of_sensors 5"));
-    QCOMPARE(exchange(*socket, "norvane set inertial frequency 1.0"),
-             QByteArray("norvane err 3 \"frequency must be 50.0 to 500.0 Hz\""));
-    // Two requests in one packet: two replies, in order.
-    socket->write("norvane get system type\nnorvane tracking stop\n");
-    QCOMPARE(read_line(*socket), QByteArray("norvane set system type NORVANE-DUO"));
-    QCOMPARE(read_line(*socket), QByteArray("norvane ok"));
-    QCOMPARE(server->client_count(), 1);
-}
-
-void tst_SimServer::clients_share_one_controller()
-{
-    QVERIFY(start());
-    auto first = connect_client();
-    auto second = connect_client();
-    auto third = connect_client();
-    QCOMPARE(exchange(*first, "norvane set body desc standard b02 \"bat\""), QByteArray("norvane ok"));
-    QCOMPARE(exchange(*second, "norvane get body desc standard b02"),
-             QByteArray("norvane set body desc standard b02 \"bat\""));
-    QCOMPARE(exchange(*third, "norvane get system version"), QByteArray("norvane set system version 1.21.2"));
-    QCOMPARE(server->client_count(), 3);
-    QSignalSpy gone(server.get(), &SimServer::client_disconnected);
-    second->disconnectFromHost();
-    QVERIFY(gone.wait(3000));
-    QCOMPARE(server->client_count(), 2);
-    QCOMPARE(exchange(*first, "norvane get system type"), QByteArray("norvane set system type NORVANE-DUO"));
-}
-
-void tst_SimServer::late_reply_keeps_order()
-{
-    QVERIFY(start(R"({"extends": "default", "faults": [
-        {"line": "norvane get inertial warmup_status", "kind": "late", "delay_ms": 300}]})"));
-    auto slow = connect_client();
-    auto other = connect_client();
-    QElapsedTimer timer;
-    timer.start();
-    slow->write("norvane get inertial warmup_status\nnorvane get inertial warmup\n");
-    // Another client is not held up by it.
-    QCOMPARE(exchange(*other, "norvane get inertial warmup"), QByteArray("norvane set inertial warmup no"));
-    QVERIFY(timer.elapsed() < 300);
-    QVERIFY(read_line(*slow).startsWith("norvane set inertial warmup_status "));
-    QVERIFY(timer.elapsed() >= 290);
-    QCOMPARE(read_line(*slow), QByteArray("norvane set inertial warmup no"));
-}
-
-void tst_SimServer::silent_request_gets_no_reply()
-{
-    QVERIFY(start(R"({"extends": "default", "faults": [
-        {"line": "norvane inertial scan_transceiver_radio_channels", "kind": "silent"}]})"));
-    auto socket = connect_client();
-    socket->write("norvane inertial scan_transceiver_radio_channels\nnorvane get system type\n");
-    QCOMPARE(read_line(*socket), QByteArray("norvane set system type NORVANE-DUO"));
-    QVERIFY(!socket->canReadLine());
-    // It was done all the same.
-    const QByteArray suggested =
-        exchange(*socket, "norvane get inertial transceiver_suggested_radio_channel NRV RD2 '70012'");
-    QVERIFY2(suggested.startsWith("norvane set ") && !suggested.endsWith(" 0"), suggested.constData());
-}
-
-void tst_SimServer::hang_up_mid_reply()
-{
-    QVERIFY(start(R"({"extends": "default", "faults": [
-        {"line": "norvane get system version", "kind": "hang_up"}]})"));
-    auto socket = connect_client();
-    QSignalSpy closed(socket.get(), &QTcpSocket::disconnected);
-    socket->write("norvane get system version\nnorvane get system type\n");
-    QVERIFY(closed.wait(3000));
-    const QByteArray received = socket->readAll();
-    const QByteArray whole = "norvane set system version 1.21.2";
-    QCOMPARE(received, whole.left(whole.size() / 2));
-    // The controller itself carries on for the next client.
-    auto next = connect_client();
-    QCOMPARE(exchange(*next, "norvane get system type"), QByteArray("norvane set system type NORVANE-DUO"));
-}
-
-void tst_SimServer::overlong_line_is_refused()
-{
-    QVERIFY(start());
-    auto socket = connect_client();
-    socket->write(QByteArray(SimServer::MaxLineLength + 10, 'a'));
-    QCOMPARE(read_line(*socket), QByteArray("norvane err 2 \"line too long\""));
-    // What follows the refused bytes is a fresh start.
-    socket->write("aaa\nnorvane get system type\n");
-    QCOMPARE(read_line(*socket), QByteArray("norvane err 2 \"not a request\""));
-    QCOMPARE(read_line(*socket), QByteArray("norvane set system type NORVANE-DUO"));
-}
 
 void tst_SimServer::daemon()
 {
     QProcess simd;
-    simd.setProgram(QStringLiteral(SIMD_FILE));
-    simd.setArguments({QStringLiteral("--port"), QStringLiteral("0"), QStringLiteral("--speed"), QStringLiteral("10"),
-                       QStringLiteral("--log"), QStringLiteral("--scenario"),
-                       QStringLiteral(SCENARIO_DIR "/locked_configuration.json")});
-    simd.start();
-    QVERIFY(simd.waitForStarted(5000));
-    QVERIFY(simd.waitForReadyRead(5000));
-    const QByteArray banner = simd.readLine();
-    const QRegularExpression listening(QStringLiteral("listening on 127\\.0\\.0\\.1:(\\d+) "));
-    const QRegularExpressionMatch match = listening.match(QString::fromLatin1(banner));
-    QVERIFY2(match.hasMatch(), banner.constData());
+    simd.start(QStringLiteral(SIMD_FILE), {"--port", "65536"});
+    QVERIFY(simd.waitForFinished(5000));
+    QCOMPARE(simd.exitCode(), 2);
+    QCOMPARE(simd.readAllStandardError(), "norvane-simd: --port must be 0 to 65535, not 65536\n");
+    simd.start(QStringLiteral(SIMD_FILE), {"--scenario", "/nonexistent.json"});
+    QVERIFY(simd.waitForFinished(5000));
+    QCOMPARE(simd.exitCode(), 1);
+    QCOMPARE(simd.readAllStandardError(), "norvane-simd: /nonexistent.json: No such file or directory\n");
 
-    QTcpSocket socket;
-    socket.connectToHost(QHostAddress::LocalHost, quint16(match.captured(1).toUInt()));
-    QVERIFY(socket.waitForConnected(5000));
-    socket.write("norvane get config is_changeable\n");
-    QVERIFY(socket.waitForReadyRead(5000));
-    QCOMPARE(socket.readLine(), QByteArray("norvane set config is_changeable no\n"));
+    QTemporaryDir dir;
+    QFile scenario(dir.filePath("faults.json"));
+    QVERIFY(scenario.open(QIODevice::WriteOnly) && scenario.write(R"({"extends": "default", "faults": [
+        {"line": "norvane get inertial warmup_status", "kind": "late", "delay_ms": 800},
+        {"line": "norvane inertial scan_transceiver_radio_channels", "kind": "silent"},
+        {"line": "norvane get system version", "kind": "hang_up"}]})") > 0);
+    scenario.close();
+    simd.start(QStringLiteral(SIMD_FILE), {"--port", "0", "--speed", "10", "--log", "--scenario", scenario.fileName()});
+    QVERIFY(simd.waitForReadyRead(10000));
+    const QRegularExpressionMatch banner = QRegularExpression(
+        "^norvane-simd: listening on 127\\.0\\.0\\.1:(\\d+) \\(controller 1\\.21\\.2 NORVANE-DUO, 2 transceivers, 5 "
+        "sensors, scenario .*faults.json, speed 10\\)\n$").match(QString::fromLatin1(simd.readLine()));
+    QVERIFY(banner.hasMatch());
+    const quint16 port = quint16(banner.captured(1).toUInt());
+    QTcpSocket clients[2];
+    for (QTcpSocket& client : clients) {
+        client.connectToHost(QHostAddress::LocalHost, port);
+        QVERIFY(client.waitForConnected(5000));
+    }
+    const auto lines = [](QTcpSocket& socket, int count) {
+        QByteArray got;
+        while (count-- > 0) {
+            while (!socket.canReadLine() && socket.waitForReadyRead(3000)) {
+            }
+            got += socket.canReadLine() ? socket.readLine() : "(none)\n";
+        }
+        return got;
+    };
+    QTcpSocket& first = clients[0];
+    QTcpSocket& second = clients[1];
+    first.write("norvane get system type\r\nnorvane set body desc standard b02 \"bat\"\nnorvane tracking stop\n");
+    QCOMPARE(lines(first, 3), "norvane set system type NORVANE-DUO\nnorvane ok\nnorvane ok\n");
+    first.write(QByteArray(65536 + 1, 'a'));
+    QCOMPARE(lines(first, 1), "norvane err 2 \"line too long\"\n");
+    // What follows the dropped bytes is a fresh start.
+    first.write("aaa\nnorvane get system type\n");
+    QCOMPARE(lines(first, 2), "norvane err 2 \"not a request\"\nnorvane set system type NORVANE-DUO\n");
 
+    // One controller for all; a late reply holds up its own client's later
+    // replies, nobody else's.
+    QElapsedTimer timer;
+    timer.start();
+    first.write("norvane get inertial warmup_status\nnorvane get inertial warmup\n");
+    second.write("norvane get body desc standard b02\n");
+    QCOMPARE(lines(second, 1), "norvane set body desc standard b02 \"bat\"\n");
+    QVERIFY(timer.elapsed() < 700);
+    QVERIFY(lines(first, 2).endsWith("\nnorvane set inertial warmup no\n"));
+    QVERIFY(timer.elapsed() >= 790);
+    // A silent request is done all the same, and the next is answered.
+    second.write("norvane inertial scan_transceiver_radio_channels\n"
+                 "norvane get inertial transceiver_suggested_radio_channel NRV RD2 '70012'\n");
+    QVERIFY(!lines(second, 1).endsWith(" 0\n"));
+    // A hang-up sends half the reply and closes only that connection.
+    second.write("norvane get system version\nnorvane get system type\n");
+    QVERIFY(second.waitForDisconnected(5000));
+    QCOMPARE(second.readAll(), "norvane set syst");
+
+    // The host's link, with a long command answered later, its delay divided
+    // by the speed.
+    TcpLink link(QStringLiteral("127.0.0.1"), port);
+    char reply[IOManager::ReplyCapacity] = "";
+    QCOMPARE(link.set_value("inertial number_of_scan_channels 1"), 0);
+    QCOMPARE(link.set_value("inertial scan_transceiver_channel t01 usb"), 0);
+    link.set_timeout(true, 20000, true);
+    QCOMPARE(link.send_command(reply, "norvane inertial scan_sensors"), int(ControllerLink::Pending));
+    QCOMPARE(link.wait_for_completion(nullptr), 0);
+    QCOMPARE(reply, "norvane ok");
     QByteArray log;
-    while (!log.contains("is_changeable no\n") && simd.waitForReadyRead(5000))
+    while (!log.contains("scan_sensors ->") && simd.waitForReadyRead(5000))
         log += simd.readAll();
-    QVERIFY2(log.contains("] norvane get config is_changeable -> norvane set config is_changeable no\n"),
+    QVERIFY2(QRegularExpression("^\\[1\\] connected from 127.0.0.1:\\d+\n\\[2\\] connected from 127.0.0.1:\\d+\n"
+                                "\\[1\\] norvane get system type\\\\xd -> norvane set system type NORVANE-DUO\n.*"
+                                "\\[2\\] norvane inertial scan_transceiver_radio_channels -> \\(no answer\\)\n.*"
+                                "\\[2\\] norvane get system version -> norvane set system version 1.21.2 \\(hangs up\\)\n.*"
+                                "\\[2\\] disconnected\n\\[3\\] connected from .*"
+                                "\\[3\\] norvane inertial scan_sensors -> norvane ok \\(after 40 ms\\)\n$",
+                                QRegularExpression::DotMatchesEverythingOption)
+                 .match(QString::fromLatin1(log))
+                 .hasMatch(),
              log.constData());
     simd.kill();
-    QVERIFY(simd.waitForFinished(5000));
-}
-
-void tst_SimServer::daemon_refuses_bad_arguments_data()
-{
-    QTest::addColumn<QStringList>("arguments");
-    QTest::addColumn<int>("exit_code");
-    QTest::addColumn<QString>("message");
-
-    QTest::newRow("speed zero") << QStringList{"--speed", "0"} << 2 << "--speed must be a number above 0";
-    QTest::newRow("port too high") << QStringList{"--port", "70000"} << 2 << "--port must be 0 to 65535";
-    QTest::newRow("not an address") << QStringList{"--listen", "localhost.example"} << 2
-                                    << "--listen needs an IP address";
-    QTest::newRow("missing scenario") << QStringList{"--scenario", "/nonexistent.json"} << 1 << "/nonexistent.json";
-}
-
-void tst_SimServer::daemon_refuses_bad_arguments()
-{
-    QFETCH(QStringList, arguments);
-    QFETCH(int, exit_code);
-    QFETCH(QString, message);
-    QProcess simd;
-    simd.start(QStringLiteral(SIMD_FILE), arguments);
-    QVERIFY(simd.waitForFinished(5000));
-    QCOMPARE(simd.exitCode(), exit_code);
-    const QString error = QString::fromLocal8Bit(simd.readAllStandardError());
-    QVERIFY2(error.contains(message), qPrintable(error));
+    simd.waitForFinished(5000);
 }
 
 QTEST_GUILESS_MAIN(tst_SimServer)

@@ -2,9 +2,6 @@
 
 #include <QAction>
 
-#include "host/InProcessLink.h"
-#include "host/LogView.h"
-#include "host/MainWindow.h"
 #include "simulator/ManualClock.h"
 #include "simulator/SimulatedController.h"
 #include "simulator/WallClock.h"
@@ -46,44 +43,11 @@ HostHarness::~HostHarness()
     controller_link.reset();
 }
 
-SimulatedController* HostHarness::simulator() const
+QStringList HostHarness::texts(const QList<QAction*>& actions)
 {
-    return controller_link->simulator();
-}
-
-long HostHarness::round_trips() const
-{
-    return controller_link->round_trips();
-}
-
-QAction* HostHarness::action(const QString& text) const
-{
-    return main_window->module_action(text);
-}
-
-QMenu* HostHarness::menu_of(const QString& action_text) const
-{
-    QAction* entry = action(action_text);
-    return entry ? main_window->menu_of(entry) : nullptr;
-}
-
-QList<QWidget*> HostHarness::status_widgets() const
-{
-    return main_window->status_widgets();
-}
-
-QWidget* HostHarness::status_widget() const
-{
-    const QList<QWidget*> widgets = status_widgets();
-    return widgets.isEmpty() ? nullptr : widgets.first();
-}
-
-QStringList HostHarness::messages() const
-{
-    return main_window->message_log()->texts();
-}
-
-void HostHarness::shutdown()
-{
-    main_window->shutdown_modules();
+    QStringList result;
+    for (const QAction* action : actions)
+        if (!action->isSeparator())
+            result << action->text() + (action->isEnabled() ? "" : " (off)");
+    return result;
 }

@@ -2,17 +2,17 @@
 #define HOSTHARNESS_H
 
 #include <QByteArray>
+#include <QMenu>
 #include <QString>
 #include <QStringList>
 
 #include <memory>
 
-class InProcessLink;
-class MainWindow;
+#include "host/InProcessLink.h"
+#include "host/LogView.h"
+#include "host/MainWindow.h"
+
 class ManualClock;
-class QAction;
-class QMenu;
-class QWidget;
 class SimulatedController;
 
 // The whole product in one test: norvane-host's window on the in-process
@@ -53,21 +53,24 @@ public:
 
     MainWindow* window() const { return main_window.get(); }
     InProcessLink* link() const { return controller_link.get(); }
-    SimulatedController* simulator() const;
+    SimulatedController* simulator() const { return controller_link->simulator(); }
     ManualClock* clock() const { return manual; }   // null on the wall clock
-    long round_trips() const;
+    long round_trips() const { return controller_link->round_trips(); }
 
     // A module's menu entry by its text with the mnemonic, and its menu.
-    QAction* action(const QString& text) const;
-    QMenu* menu_of(const QString& action_text) const;
+    QAction* action(const QString& text) const { return main_window->module_action(text); }
+    QMenu* menu_of(const QString& action_text) const { return main_window->menu_of(action(action_text)); }
     // The modules' status widgets, in the order they were placed.
-    QList<QWidget*> status_widgets() const;
-    QWidget* status_widget() const;
+    QList<QWidget*> status_widgets() const { return main_window->status_widgets(); }
+    QWidget* status_widget() const { return status_widgets().value(0); }
     // The window's message log, oldest first, without times.
-    QStringList messages() const;
+    QStringList messages() const { return main_window->message_log()->texts(); }
 
     // What quitting does: the modules stop and destroy their widgets.
-    void shutdown();
+    void shutdown() { main_window->shutdown_modules(); }
+
+    // Texts of menu bar entries or menu entries, " (off)" after disabled ones.
+    static QStringList texts(const QList<QAction*>& actions);
 
 private:
     std::unique_ptr<InProcessLink> controller_link;

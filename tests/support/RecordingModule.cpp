@@ -3,7 +3,8 @@
 #include <QAction>
 #include <QLabel>
 
-RecordingModule::RecordingModule(const QString& module_name) : name(module_name)
+RecordingModule::RecordingModule(const QString& module_name, QStringList* shared_journal)
+    : name(module_name), journal(shared_journal)
 {
 }
 
@@ -16,28 +17,16 @@ QAction* RecordingModule::add_entry(const QString& menu, int menu_position, cons
                                     int action_position)
 {
     auto* action = new QAction(text, this);
-    elements.push_back(std::make_unique<_GuiElement>(
-        _GuiElement{action, action_position, menu, menu_position, nullptr, 0}));
+    add_raw(_GuiElement{action, action_position, menu, menu_position, nullptr, 0});
     return action;
 }
 
 QWidget* RecordingModule::add_status_widget()
 {
-    auto* widget = new QLabel(QStringLiteral("%1 status").arg(name));
-    widget->setObjectName(QStringLiteral("%1Status").arg(name));
+    auto* widget = new QLabel(name);
     status_widgets << widget;
-    elements.push_back(std::make_unique<_GuiElement>(_GuiElement{nullptr, -1, QString(), -1, widget, 1}));
+    add_raw(_GuiElement{nullptr, -1, QString(), -1, widget, 1});
     return widget;
-}
-
-void RecordingModule::add_raw(const _GuiElement& element)
-{
-    elements.push_back(std::make_unique<_GuiElement>(element));
-}
-
-void RecordingModule::about_to_exit_module()
-{
-    record(QStringLiteral("about_to_exit_module"));
 }
 
 void RecordingModule::exit_module()
@@ -60,11 +49,4 @@ void RecordingModule::set_param(QString param_name, QVariant value)
 {
     record(QStringLiteral("set_param %1").arg(param_name));
     params.insert(param_name, value);
-}
-
-void RecordingModule::record(const QString& call)
-{
-    log << call;
-    if (journal)
-        *journal << QStringLiteral("%1 %2").arg(name, call);
 }

@@ -1,6 +1,5 @@
 #include "ScriptedTcpController.h"
 
-#include <QHostAddress>
 #include <QMutexLocker>
 #include <QPointer>
 #include <QTcpServer>
@@ -9,7 +8,6 @@
 
 ScriptedTcpController::ScriptedTcpController()
 {
-    thread.setObjectName(QStringLiteral("ScriptedTcpController"));
     moveToThread(&thread);
     thread.start();
 }
@@ -17,8 +15,7 @@ ScriptedTcpController::ScriptedTcpController()
 ScriptedTcpController::~ScriptedTcpController()
 {
     stop();
-    QMetaObject::invokeMethod(this, [this] { moveToThread(thread.thread()); },
-                              Qt::BlockingQueuedConnection);
+    QMetaObject::invokeMethod(this, [this] { moveToThread(thread.thread()); }, Qt::BlockingQueuedConnection);
     thread.quit();
     thread.wait();
 }
@@ -26,25 +23,33 @@ ScriptedTcpController::~ScriptedTcpController()
 bool ScriptedTcpController::start(quint16 port)
 {
     bool ok = false;
-    quint16 bound = 0;
-    QMetaObject::invokeMethod(this, [&] { listen(port, &ok, &bound); }, Qt::BlockingQueuedConnection);
-    listening_port = ok ? bound : 0;
+    QMetaObject::invokeMethod(this, [&] { listen(port, &ok); }, Qt::BlockingQueuedConnection);
     return ok;
 }
 
 void ScriptedTcpController::stop()
 {
-    if (thread.isRunning())
-        QMetaObject::invokeMethod(this, [this] { shut(); }, Qt::BlockingQueuedConnection);
+    QMetaObject::invokeMethod(this, [this] { shut(); }, Qt::BlockingQueuedConnection);
 }
 
-void ScriptedTcpController::listen(quint16 port, bool* ok, quint16* bound)
+void ScriptedTcpController::listen(quint16 port, bool* ok)
 {
     shut();
     server = new QTcpServer(this);
-    connect(server, &QTcpServer::newConnection, this, &ScriptedTcpController::accept);
+    connect(server, &QTcpServer::newConnection, this, [this] {
+        while (QTcpSocket* client = server->nextPendingConnection()) {
+            QMutexLocker lock(&mutex);
+            ++accepted;
+            clients << client;
+            connect(client, &QTcpSocket::readyRead, this, [this, client] { serve(client); });
+            connect(client, &QTcpSocket::disconnected, this, [this, client] {
+                clients.removeOne(client);
+                client->deleteLater();
+            });
+        }
+    });
     *ok = server->listen(QHostAddress::LocalHost, port);
-    *bound = server->serverPort();
+    listening_port = server->serverPort();
 }
 
 void ScriptedTcpController::shut()
@@ -58,92 +63,29 @@ void ScriptedTcpController::shut()
     server = nullptr;
 }
 
-void ScriptedTcpController::accept()
+void ScriptedTcpController::serve(QTcpSocket* client)
 {
-    while (QTcpSocket* client = server->nextPendingConnection()) {
-        {
-            QMutexLocker lock(&mutex);
-            ++accepted;
-        }
-        clients << client;
-        connect(client, &QTcpSocket::readyRead, this, [this, client] { serve(client); });
-        connect(client, &QTcpSocket::disconnected, this, [this, client] {
-            clients.removeOne(client);
-            client->deleteLater();
+    while (client->canReadLine()) {
+        const QByteArray line = client->readLine().chopped(1);
+        QMutexLocker lock(&mutex);
+        requests << line;
+        const Step step = steps.value(line, Step{"norvane err 99 \"unknown request\"\n", 0, false});
+        QPointer<QTcpSocket> target(client);
+        QTimer::singleShot(step.delay_ms, this, [target, step] {
+            if (!target)
+                return;
+            target->write(step.bytes);
+            target->flush();
+            if (step.hang_up)
+                target->disconnectFromHost();
         });
     }
 }
 
-void ScriptedTcpController::serve(QTcpSocket* client)
-{
-    while (client->canReadLine()) {
-        QByteArray line = client->readLine();
-        line.chop(1);
-        Step step{Kind::Raw, QByteArray("norvane err 99 \"unknown request\"\n"), 0};
-        {
-            QMutexLocker lock(&mutex);
-            requests << line;
-            auto it = steps.constFind(line);
-            if (it != steps.constEnd())
-                step = it.value();
-        }
-        switch (step.kind) {
-        case Kind::Reply:
-            client->write(step.bytes + '\n');
-            break;
-        case Kind::Raw:
-            client->write(step.bytes);
-            break;
-        case Kind::CloseAfter:
-            client->write(step.bytes);
-            client->flush();
-            client->disconnectFromHost();
-            return;
-        case Kind::Silent:
-            break;
-        case Kind::Late: {
-            QPointer<QTcpSocket> target(client);
-            const QByteArray bytes = step.bytes + '\n';
-            QTimer::singleShot(step.delay_ms, this, [target, bytes] {
-                if (target)
-                    target->write(bytes);
-            });
-            break;
-        }
-        }
-        client->flush();
-    }
-}
-
-void ScriptedTcpController::script(const QByteArray& request, const Step& step)
+void ScriptedTcpController::script(const QByteArray& request, const QByteArray& bytes, int delay_ms, bool hang_up)
 {
     QMutexLocker lock(&mutex);
-    steps.insert(request, step);
-}
-
-void ScriptedTcpController::reply(const QByteArray& request, const QByteArray& answer)
-{
-    script(request, Step{Kind::Reply, answer, 0});
-}
-
-void ScriptedTcpController::raw(const QByteArray& request, const QByteArray& bytes)
-{
-    script(request, Step{Kind::Raw, bytes, 0});
-}
-
-void ScriptedTcpController::close_after(const QByteArray& request, const QByteArray& partial)
-{
-    script(request, Step{Kind::CloseAfter, partial, 0});
-}
-
-void ScriptedTcpController::silent(const QByteArray& request)
-{
-    script(request, Step{Kind::Silent, QByteArray(), 0});
-}
-
-void ScriptedTcpController::late(const QByteArray& request, const QByteArray& answer, int delay_ms)
-{
-    script(request, Step{Kind::Late, answer, delay_ms});
+    steps.insert(request, Step{bytes, delay_ms, hang_up});
 }
 
 QList<QByteArray> ScriptedTcpController::received() const

@@ -11,12 +11,12 @@
 class QTcpServer;
 class QTcpSocket;
 
-// A controller on 127.0.0.1 that answers from a script, for tests of links
-// that block the test's thread: it serves from a thread of its own.
+// A controller on 127.0.0.1 that answers from a script, from a thread of its
+// own, for links that block the test's thread while they wait:
 //
-//   server.reply("norvane get inertial available", "norvane set inertial available yes");
-//   server.close_after("norvane get x", "norvane set x 12");   // cut short, then gone
-//   server.silent("norvane get y");                            // never answers
+//   controller.reply("norvane get x", "norvane set x 12");
+//   controller.script("norvane get y", "norvane set y", 0, true);   // cut short, then gone
+//   controller.script("norvane get z", "");                         // never answers
 //
 // Requests the script does not know get "norvane err 99 ...".
 class ScriptedTcpController : public QObject
@@ -33,29 +33,25 @@ public:
     void stop();
     quint16 port() const { return listening_port; }
 
-    void reply(const QByteArray& request, const QByteArray& reply);
-    void raw(const QByteArray& request, const QByteArray& bytes);   // sent as they are
-    void close_after(const QByteArray& request, const QByteArray& partial);
-    void silent(const QByteArray& request);
-    void late(const QByteArray& request, const QByteArray& reply, int delay_ms);
+    // Sends these bytes as they stand after delay_ms (a reply line needs its
+    // '\n'; nothing at all is silence), then hangs up if asked to.
+    void script(const QByteArray& request, const QByteArray& bytes, int delay_ms = 0, bool hang_up = false);
+    void reply(const QByteArray& request, const QByteArray& line) { script(request, line + '\n'); }
 
     QList<QByteArray> received() const;
     int connections() const;
 
 private:
-    enum class Kind { Reply, Raw, CloseAfter, Silent, Late };
     struct Step
     {
-        Kind kind;
         QByteArray bytes;
         int delay_ms;
+        bool hang_up;
     };
 
-    void script(const QByteArray& request, const Step& step);
-    // Run on the server's thread.
-    void listen(quint16 port, bool* ok, quint16* bound);
+    // On the controller's thread.
+    void listen(quint16 port, bool* ok);
     void shut();
-    void accept();
     void serve(QTcpSocket* client);
 
     QThread thread;
