@@ -224,6 +224,9 @@ int InertialSettingsDlg::update_and_exec()
     ui->progressBar->setEnabled(false);
     ui->progressBar->setFormat(QString());
     ui->label_error3->hide();
+    // Whatever an earlier opening showed, no warm-up is shown running until
+    // this one finds it so.
+    ui->pushButton_warmup->setText(tr("Warmup start"));
     transceiver_present = false;
     scan_allowed = false;
     name_editing = false;
@@ -290,7 +293,6 @@ int InertialSettingsDlg::update_and_exec()
             sensor_data_timer->start();
         } else {
             not_present_timer->start();
-            ui->pushButton_warmup->setText(tr("Warmup start"));
         }
     }
     disable_body_page();
