@@ -2,7 +2,6 @@
 
 #include <QCheckBox>
 #include <QComboBox>
-#include <QHeaderView>
 #include <QLabel>
 #include <QMessageBox>
 #include <QProgressBar>
@@ -13,13 +12,21 @@
 
 #include "FakeController.h"
 #include "ModalDialogHelper.h"
+#include "TypicalSystem.h"
 #include "addsensor/AddInertialSensorDlg.h"
 #include "module/BackendVersions.h"
 #include "settings/ChannelComboBox.h"
 
 namespace {
 
-// What the label showed whenever it was painted: the scan repaints it
+const QByteArray Scanned = "inertial number_of_scanned_sensors";
+
+QByteArray channel_line(int channel)
+{
+    return "inertial scan_transceiver_channel t01 NRV Dongle 'T1001' " + QByteArray::number(channel);
+}
+
+// Every text the label showed while it was painted: the scan repaints it
 // before each blocking command, so this is what the user saw meanwhile.
 class PaintedTexts : public QObject
 {
@@ -28,10 +35,9 @@ public:
     QStringList texts;
 
 protected:
-    bool eventFilter(QObject* watched, QEvent* event) override
+    bool eventFilter(QObject*, QEvent* event) override
     {
-        if (watched == label && event->type() == QEvent::Paint
-            && (texts.isEmpty() || texts.last() != label->text()))
+        if (event->type() == QEvent::Paint && (texts.isEmpty() || texts.last() != label->text()))
             texts << label->text();
         return false;
     }
@@ -40,13 +46,11 @@ private:
     QLabel* label;
 };
 
-QByteArray dongleLine(int channel)
-{
-    return "inertial scan_transceiver_channel t01 nv dongle 'T1' " + QByteArray::number(channel);
-}
-
 } // namespace
 
+// The add sensor dialog against the typical system: scanning in each mode,
+// one channel per tick, what stops a scan, and adding the accepted sensors
+// to free bodies.
 class tst_AddInertialSensorDlg : public QObject
 {
     Q_OBJECT
@@ -54,54 +58,36 @@ class tst_AddInertialSensorDlg : public QObject
 private slots:
     void init();
     void cleanup();
-    void form();
     void scanModes_data();
     void scanModes();
-    void usbScanWithoutTransceiver();
-    void allChannels();
-    void defaultChannelsFindSensors();
-    void scanCommandResult_data();
-    void scanCommandResult();
+    void usbScanAsksInOrder();
+    void scan_data();
+    void scan();
     void scanFailures_data();
     void scanFailures();
-    void pollTimesOut();
-    void blockedTickWaits();
-    void knownSensorIsInert();
+    void haltedScanAndReopening();
     void acceptAllAndClicks();
-    void singleChannel();
-    void singleChannelNotChosen();
-    void cancelSeenAtNextTick();
-    void closeAndEscapeDuringScan();
-    void f3Scans();
-    void applyPlacesSensors();
-    void applyStorage_data();
-    void applyStorage();
-    void applyFailures_data();
-    void applyFailures();
-    void absurdCounts();
+    void apply_data();
+    void apply();
 
 private:
-    template <class T>
-    T* w(const char* name) const
-    {
-        T* widget = dlg->findChild<T*>(QLatin1String(name));
-        Q_ASSERT(widget);
-        return widget;
-    }
-    // Opens the dialog and runs `steps` inside its modal loop; Exit ends it.
+    // Opens the dialog, runs `steps` inside it and leaves by Exit.
     void open(const std::function<void()>& steps);
-    void chooseMode(const QString& text);
-    void tick();
-    // Ticks until the scan is over (Scan usable again); returns the ticks.
-    int finish();
-    void scriptController(int transceivers);
-    void scriptScanned(const QList<QByteArray>& sensors);
-    QList<QByteArray> linesAfter(const QByteArray& first) const;
+    template <class T = QWidget>
+    T* w(const char* name) const { return dialog->findChild<T*>(QLatin1String(name)); }
+    // Starts a scan in `mode` and ticks until it is over; returns the ticks.
+    int scan(const QString& mode, int cancel_after = -1);
+    void tick() { QMetaObject::invokeMethod(dialog, "scan_channels"); }
+    // The found sensors as "id model channel accept" rows.
+    QStringList rows() const;
+    void answer_box(int button);
 
     FakeController* fake = nullptr;
     BackendVersions versions;
+    TypicalSystem system;
     QDialog* parent = nullptr;
-    AddInertialSensorDlg* dlg = nullptr;
+    AddInertialSensorDlg* dialog = nullptr;
+    QString box;
 };
 
 void tst_AddInertialSensorDlg::init()
@@ -110,17 +96,29 @@ void tst_AddInertialSensorDlg::init()
     versions = BackendVersions();
     versions.major = 1;
     versions.minor = 21;
+    system = TypicalSystem();
+    system.install(*fake);
+    fake->set_stateful(true);
+    // Two new sensors wait on channel 35, one of the paired ones answers too.
+    for (const QByteArray setting : {"inertial number_of_scan_channels 1", "inertial number_of_scan_channels 0",
+                                     "inertial scan_transceiver_channel t01 usb"})
+        fake->accept(setting);
+    for (int channel = 2; channel <= 81; ++channel)
+        fake->accept(channel_line(channel));
+    fake->reply("norvane inertial scan_sensors", "norvane ok");
+    fake->replies(Scanned, {"-1", "3"});
+    fake->reply("inertial scanned_sensor d01", "NRV IMU9 'S0007' 35");
+    fake->reply("inertial scanned_sensor d02", "NRV IMU9 'S0001' 35");
+    fake->reply("inertial scanned_sensor d03", "NRV IMU6 'C0008' 35");
+    box.clear();
     parent = new QDialog;
-    dlg = new AddInertialSensorDlg(fake, parent, &versions);
+    dialog = new AddInertialSensorDlg(fake, parent, &versions);
 }
 
 void tst_AddInertialSensorDlg::cleanup()
 {
     delete parent;
-    parent = nullptr;
-    dlg = nullptr;
     delete fake;
-    fake = nullptr;
     QCOMPARE(ModalDialogHelper::pending(), 0);
     ModalDialogHelper::clear_pending();
     QCOMPARE(ModalDialogHelper::leaked_windows(), QStringList());
@@ -133,94 +131,55 @@ void tst_AddInertialSensorDlg::open(const std::function<void()>& steps)
         if (w<QPushButton>("pushButton_exit")->isEnabled())
             w<QPushButton>("pushButton_exit")->click();
         else
-            dlg->hide();   // a test that left a scan halted
+            dialog->hide();   // a scan left halted
     });
-    dlg->update_and_exec();
+    dialog->update_and_exec();
 }
 
-void tst_AddInertialSensorDlg::chooseMode(const QString& text)
+int tst_AddInertialSensorDlg::scan(const QString& mode, int cancel_after)
 {
-    QComboBox* modes = w<QComboBox>("comboBox_scanMode");
-    const int index = modes->findText(text);
-    QVERIFY2(index >= 0, qPrintable(text));
-    modes->setCurrentIndex(index);
-}
-
-void tst_AddInertialSensorDlg::tick()
-{
-    QMetaObject::invokeMethod(dlg, "scan_channels", Qt::DirectConnection);
-}
-
-int tst_AddInertialSensorDlg::finish()
-{
+    auto* modes = w<QComboBox>("comboBox_scanMode");
+    modes->setCurrentIndex(modes->findText(mode));
+    w<QPushButton>("pushButton_scan")->click();
     int ticks = 0;
-    while (!w<QPushButton>("pushButton_scan")->isEnabled() && ticks < 500) {
+    for (; !w<QPushButton>("pushButton_scan")->isEnabled() && ticks < 200; ++ticks) {
+        if (ticks == cancel_after)
+            w<QPushButton>("pushButton_cancel")->click();
         tick();
-        ++ticks;
     }
     return ticks;
 }
 
-void tst_AddInertialSensorDlg::scriptController(int transceivers)
+QStringList tst_AddInertialSensorDlg::rows() const
 {
-    fake->reply("inertial number_of_transceivers", QByteArray::number(transceivers));
-    fake->reply("inertial transceiver d01", "nv dongle 'T1'");
-    fake->reply("inertial number_of_sensors", "1");
-    fake->reply("inertial sensor d01", "nv imu '1001'");
-    fake->accept("inertial number_of_scan_channels 1");
-    fake->accept("inertial number_of_scan_channels 0");
-    fake->accept("inertial scan_transceiver_channel t01 usb");
-    for (int channel = 2; channel <= 81; ++channel)
-        fake->accept(dongleLine(channel));
-    fake->reply("norvane inertial scan_sensors", "norvane ok");
-    fake->replies("inertial number_of_scanned_sensors", {"-1", "0"});
-    fake->reply("inertial sensor_model_desc nv imu", "\"Motion\" Sensor");
-    fake->reply("inertial sensor_vendor_desc nv", "\"Norvane\"");
+    QStringList result;
+    auto* table = w<QTableWidget>("tableWidget");
+    for (int row = 0; row < table->rowCount(); ++row) {
+        QStringList cells;
+        for (int column = 0; column < 4; ++column)
+            cells << table->item(row, column)->text();
+        const QTableWidgetItem* accept = table->item(row, 4);
+        cells << (accept->flags() == Qt::NoItemFlags ? "-" : accept->checkState() == Qt::Checked ? "x" : "o");
+        result << cells.join(' ');
+    }
+    return result;
 }
 
-void tst_AddInertialSensorDlg::scriptScanned(const QList<QByteArray>& sensors)
+void tst_AddInertialSensorDlg::answer_box(int button)
 {
-    fake->replies("inertial number_of_scanned_sensors", {"-1", "-1", QByteArray::number(sensors.size())});
-    for (int i = 0; i < sensors.size(); ++i)
-        fake->reply("inertial scanned_sensor d" + QByteArray::number(i + 1).rightJustified(2, '0'),
-                    sensors.at(i));
-}
-
-QList<QByteArray> tst_AddInertialSensorDlg::linesAfter(const QByteArray& first) const
-{
-    const QList<QByteArray> all = fake->lines();
-    const int at = all.indexOf(first);
-    return at < 0 ? QList<QByteArray>() : all.mid(at);
-}
-
-void tst_AddInertialSensorDlg::form()
-{
-    QCOMPARE(dlg->windowTitle(), QString("Add Sensor(s)"));
-    QCOMPARE(dlg->whatsThis(), QString("Adds sensors to your system"));
-    QVERIFY(!dlg->windowIcon().isNull());
-    QTableWidget* table = w<QTableWidget>("tableWidget");
-    QStringList headers;
-    for (int c = 0; c < table->columnCount(); ++c)
-        headers << table->horizontalHeaderItem(c)->text();
-    QCOMPARE(headers, QStringList({"Device ID", "Vendor", "Model", "Channel", "Accept"}));
-    QVERIFY(table->isColumnHidden(1));
-    QCOMPARE(table->selectionBehavior(), QAbstractItemView::SelectRows);
-    QCOMPARE(table->horizontalHeader()->sectionResizeMode(2), QHeaderView::Stretch);
-    QCOMPARE(table->horizontalHeader()->sectionResizeMode(4), QHeaderView::Fixed);
-    QCOMPARE(w<QProgressBar>("progressBar_overall")->format(), QString("scanning channels %p%"));
-    QCOMPARE(w<ChannelComboBox>("comboBox_channel")->minimumChannel(), 2);
-    QCOMPARE(w<ChannelComboBox>("comboBox_channel")->maximumChannel(), 81);
-    QVERIFY(fake->lines().isEmpty());   // building the dialog asks nothing
+    ModalDialogHelper::when_active("QMessageBox", [this, button](QWidget* w) {
+        box = w->windowTitle() + ": " + qobject_cast<QMessageBox*>(w)->text();
+        ModalDialogHelper::press(w, button);
+    });
 }
 
 void tst_AddInertialSensorDlg::scanModes_data()
 {
-    QTest::addColumn<QByteArray>("transceivers");
+    QTest::addColumn<QByteArray>("transceivers");   // empty: the query fails
     QTest::addColumn<QStringList>("modes");
 
     const QStringList radio{"default channels", "single channel", "all channels", "USB"};
     QTest::newRow("one transceiver") << QByteArray("1") << radio;
-    QTest::newRow("two transceivers") << QByteArray("2") << radio;
     QTest::newRow("none") << QByteArray("0") << QStringList{"USB"};
     QTest::newRow("query fails") << QByteArray() << QStringList{"USB"};
     QTest::newRow("negative count") << QByteArray("-3") << QStringList{"USB"};
@@ -231,702 +190,353 @@ void tst_AddInertialSensorDlg::scanModes()
     QFETCH(QByteArray, transceivers);
     QFETCH(QStringList, modes);
 
-    if (transceivers.isEmpty())
-        fake->fail("inertial number_of_transceivers");
-    else
-        fake->reply("inertial number_of_transceivers", transceivers);
+    transceivers.isEmpty() ? fake->fail("inertial number_of_transceivers")
+                           : fake->reply("inertial number_of_transceivers", transceivers);
     QStringList seen;
-    QString current;
-    bool chooserEnabled = true;
+    QString state;
     open([&] {
-        QComboBox* combo = w<QComboBox>("comboBox_scanMode");
+        auto* combo = w<QComboBox>("comboBox_scanMode");
         for (int i = 0; i < combo->count(); ++i)
             seen << combo->itemText(i);
-        current = combo->currentText();
-        chooserEnabled = w<ChannelComboBox>("comboBox_channel")->isEnabled();
-        QVERIFY(!w<QPushButton>("pushButton_cancel")->isEnabled());
-        QVERIFY(!w<QPushButton>("pushButton_apply")->isEnabled());
-        QCOMPARE(dlg->focusWidget(), w<QPushButton>("pushButton_scan"));
+        state = QString("%1 %2 %3 %4 %5").arg(combo->currentText()).arg(w("comboBox_channel")->isEnabled())
+                    .arg(w("pushButton_cancel")->isEnabled()).arg(w("pushButton_apply")->isEnabled())
+                    .arg(dialog->focusWidget() == w("pushButton_scan"));
     });
     QCOMPARE(seen, modes);
-    QCOMPARE(current, QString("USB"));
-    QVERIFY(!chooserEnabled);
+    QCOMPARE(state, QString("USB 0 0 0 1"));
     QCOMPARE(fake->lines(), QList<QByteArray>{"inertial number_of_transceivers"});
-    QVERIFY(fake->messages().isEmpty());
+    QCOMPARE(fake->message_texts(), QStringList());
 }
 
-void tst_AddInertialSensorDlg::usbScanWithoutTransceiver()
+void tst_AddInertialSensorDlg::usbScanAsksInOrder()
 {
-    scriptController(0);
-    scriptScanned({"nv imu '2002' 0"});
     PaintedTexts painted(w<QLabel>("label_channel"));
-    bool cancelDuringScan = true;
-    int ticks = 0;
+    bool cancel = true;
     open([&] {
-        QVERIFY(QTest::qWaitForWindowExposed(dlg));
+        QVERIFY(QTest::qWaitForWindowExposed(dialog));
+        fake->clear_log();
         w<QPushButton>("pushButton_scan")->click();
-        cancelDuringScan = w<QPushButton>("pushButton_cancel")->isEnabled();
-        QVERIFY(!w<QPushButton>("pushButton_exit")->isEnabled());
-        QVERIFY(!w<QComboBox>("comboBox_scanMode")->isEnabled());
-        ticks = finish();
+        cancel = w("pushButton_cancel")->isEnabled() || w("pushButton_exit")->isEnabled()
+                 || w("comboBox_scanMode")->isEnabled();
+        tick();
     });
-
-    QVERIFY(!cancelDuringScan);
-    QCOMPARE(ticks, 1);
+    QVERIFY(!cancel);
+    QCOMPARE(fake->lines(), (QList<QByteArray>{
+        "inertial number_of_sensors", "inertial sensor d01", "inertial sensor d02", "inertial sensor d03",
+        "inertial sensor d04", "inertial sensor d05", "inertial number_of_scan_channels 1",
+        "inertial scan_transceiver_channel t01 usb", "norvane inertial scan_sensors", Scanned, Scanned,
+        "inertial scanned_sensor d01", "inertial sensor_model_desc NRV IMU9", "inertial sensor_vendor_desc NRV",
+        "inertial scanned_sensor d02", "inertial sensor_model_desc NRV IMU9", "inertial sensor_vendor_desc NRV",
+        "inertial scanned_sensor d03", "inertial sensor_model_desc NRV IMU6", "inertial sensor_vendor_desc NRV",
+        "inertial number_of_scan_channels 0"}));
+    // The scan command alone is waited for separately, under a long time-out.
+    const FakeController::Call& command = fake->calls().at(9);
+    QVERIFY(command.wait_separately && command.timeout_ms == 20000 && command.timeout_flag);
+    QCOMPARE(fake->calls().at(10).operation, FakeController::WaitForCompletion);
+    QCOMPARE(fake->calls().at(11).wait_separately, false);
     QVERIFY2(painted.texts.contains("Scanning USB..."), qPrintable(painted.texts.join('|')));
-    QCOMPARE(w<QLabel>("label_channel")->text(), QString("Scanning USB done"));
-    QCOMPARE(w<QProgressBar>("progressBar_overall")->value(), 100);
-    QCOMPARE(fake->lines(), QList<QByteArray>({
-        "inertial number_of_transceivers",
-        "inertial number_of_sensors",
-        "inertial sensor d01",
-        "inertial number_of_scan_channels 1",
-        "inertial scan_transceiver_channel t01 usb",
-        "norvane inertial scan_sensors",
-        "inertial number_of_scanned_sensors",
-        "inertial number_of_scanned_sensors",
-        "inertial number_of_scanned_sensors",
-        "inertial scanned_sensor d01",
-        "inertial sensor_model_desc nv imu",
-        "inertial sensor_vendor_desc nv",
-        "inertial number_of_scan_channels 0",
-    }));
-    // The scan command alone goes out to be waited for separately.
-    const QList<FakeController::Call>& calls = fake->calls();
-    int command = -1;
-    for (int i = 0; i < calls.size(); ++i)
-        if (calls.at(i).operation == FakeController::SendCommand)
-            command = i;
-    QVERIFY(command > 0);
-    QCOMPARE(calls.at(command).wait_separately, true);
-    QCOMPARE(calls.at(command).timeout_ms, 20000);
-    QCOMPARE(calls.at(command).timeout_flag, true);
-    QCOMPARE(calls.at(command + 1).operation, FakeController::WaitForCompletion);
-
-    QTableWidget* table = w<QTableWidget>("tableWidget");
-    QCOMPARE(table->rowCount(), 1);
-    QCOMPARE(table->item(0, 0)->text(), QString("2002"));
-    QCOMPARE(table->item(0, 0)->textAlignment(), int(Qt::AlignRight | Qt::AlignVCenter));
-    QCOMPARE(table->item(0, 1)->text(), QString("Norvane"));
-    QCOMPARE(table->item(0, 2)->text(), QString("Motion Sensor"));
-    QCOMPARE(table->item(0, 3)->text(), QString("USB"));
-    QCOMPARE(table->item(0, 4)->checkState(), Qt::Unchecked);
-    QCOMPARE(table->rowHeight(0), 20);
-    QVERIFY(!w<QPushButton>("pushButton_apply")->isEnabled());   // nothing accepted yet
-    QVERIFY(fake->unexpected().isEmpty());
-    QVERIFY(fake->messages().isEmpty());
+    // A paired sensor is listed but cannot be accepted.
+    QCOMPARE(rows(), (QStringList{"S0007 Norvane IMU9 sensor 35 o", "S0001 Norvane IMU9 sensor 35 -",
+                                  "C0008 Norvane IMU6 sensor 35 o"}));
+    QCOMPARE(w<QTableWidget>("tableWidget")->rowHeight(0), 20);
+    QCOMPARE(w<QLabel>("label_channel")->text() + ' ' + QString::number(w<QProgressBar>("progressBar_overall")->value()),
+             QString("Scanning USB done 100"));
+    QCOMPARE(fake->message_texts(), QStringList());
 }
 
-void tst_AddInertialSensorDlg::allChannels()
+void tst_AddInertialSensorDlg::scan_data()
 {
-    scriptController(1);
-    QList<int> progress;
-    QList<int> commands;
-    bool cancelDuringScan = false;
-    bool exitDuringScan = true;
+    QTest::addColumn<QString>("mode");
+    QTest::addColumn<int>("cancel");          // after this many ticks, -1: never
+    QTest::addColumn<int>("ticks");
+    QTest::addColumn<QList<int>>("channels");  // scanned, in order
+    QTest::addColumn<QString>("end");          // label, progress, then whether Cancel was usable
+    QTest::addColumn<QList<int>>("progress");  // after each tick
+
+    QTest::newRow("default channels") << "default channels" << -1 << 2 << QList<int>{35, 55}
+                                      << "Scanning channels done 100 1" << QList<int>{50, 100};
+    QTest::newRow("all channels, one a tick") << "all channels" << -1 << 80 << QList<int>{2, 3, 4, 81}
+                                              << "Scanning channels done 100 1" << QList<int>{1, 3, 4, 50, 99, 100};
+    QTest::newRow("single channel 47") << "single channel" << -1 << 1 << QList<int>{47}
+                                       << "Scanning channel done 100 0" << QList<int>{100};
+    QTest::newRow("cancelled: seen at the next tick") << "all channels" << 2 << 3 << QList<int>{2, 3}
+                                                      << "Scanning channels aborted 0 1" << QList<int>{1, 3, 0};
+}
+
+void tst_AddInertialSensorDlg::scan()
+{
+    QFETCH(QString, mode);
+    QFETCH(int, cancel);
+    QFETCH(int, ticks);
+    QFETCH(QList<int>, channels);
+    QFETCH(QString, end);
+    QFETCH(QList<int>, progress);
+
+    fake->replies(Scanned, {"-1", "0"});
+    fake->reply("inertial scanned_sensor d01", "NRV IMU9 'S0007' 0");
+    QList<int> seen;
+    bool cancellable = false;
+    bool chooser = false;
     open([&] {
-        chooseMode("all channels");
-        w<QPushButton>("pushButton_scan")->click();
-        cancelDuringScan = w<QPushButton>("pushButton_cancel")->isEnabled();
-        exitDuringScan = w<QPushButton>("pushButton_exit")->isEnabled();
-        for (int k = 1; k <= 80; ++k) {
-            tick();
-            progress << w<QProgressBar>("progressBar_overall")->value();
-            commands << fake->count("norvane inertial scan_sensors");
+        auto* modes = w<QComboBox>("comboBox_scanMode");
+        modes->setCurrentIndex(modes->findText(mode));
+        auto* pick = w<ChannelComboBox>("comboBox_channel");
+        chooser = pick->isEnabled();
+        if (chooser) {   // the user picks 47 in the grid
+            QCOMPARE(pick->currentText(), QString("2"));
+            pick->showPopup();
+            pick->table()->setCurrentCell(4, 6);
+            QTest::keyClick(pick->table(), Qt::Key_Return);
         }
+        w<QPushButton>("pushButton_scan")->click();
+        cancellable = w("pushButton_cancel")->isEnabled();
+        QVERIFY(!pick->isEnabled());
+        for (int tick = 0; !w("pushButton_scan")->isEnabled() && tick < 100; ++tick) {
+            if (tick == cancel)
+                w<QPushButton>("pushButton_cancel")->click();
+            this->tick();
+            seen << w<QProgressBar>("progressBar_overall")->value();
+        }
+        QCOMPARE(pick->isEnabled(), chooser);   // given back as it was
     });
-
-    QVERIFY(cancelDuringScan);
-    QVERIFY(!exitDuringScan);
-    QList<QByteArray> scanned = fake->lines(FakeController::SetValue);
-    scanned.erase(std::remove_if(scanned.begin(), scanned.end(),
-                                 [](const QByteArray& line) { return !line.startsWith("inertial scan_transceiver"); }),
-                  scanned.end());
-    QCOMPARE(scanned.size(), 80);
-    QCOMPARE(scanned.first(), dongleLine(2));
-    QCOMPARE(scanned.at(39), dongleLine(41));
-    QCOMPARE(scanned.last(), dongleLine(81));
-    // One channel per tick.
-    QCOMPARE(commands.first(), 1);
-    QCOMPARE(commands.at(39), 40);
-    QCOMPARE(commands.last(), 80);
-    // int(100 / 80 * k + 0.5)
-    QCOMPARE(progress.at(0), 1);
-    QCOMPARE(progress.at(1), 3);
-    QCOMPARE(progress.at(2), 4);
-    QCOMPARE(progress.at(39), 50);
-    QCOMPARE(progress.at(78), 99);
-    QCOMPARE(progress.at(79), 100);
-    QCOMPARE(w<QLabel>("label_channel")->text(), QString("Scanning channels done"));
+    QCOMPARE(chooser, mode == "single channel");
+    QCOMPARE(seen.size(), ticks);
+    if (seen.size() == 80)
+        seen = QList<int>{seen.at(0), seen.at(1), seen.at(2), seen.at(39), seen.at(78), seen.at(79)};
+    QCOMPARE(seen, progress);
+    QList<int> scanned;
+    for (const QByteArray& line : fake->lines(FakeController::SetValue))
+        if (line.startsWith("inertial scan_transceiver_channel"))
+            scanned << line.mid(line.lastIndexOf(' ') + 1).toInt();
+    if (scanned.size() == 80)
+        scanned = QList<int>{scanned.at(0), scanned.at(1), scanned.at(2), scanned.at(79)};
+    QCOMPARE(scanned, channels);
+    QCOMPARE(w<QLabel>("label_channel")->text() + ' ' + QString::number(w<QProgressBar>("progressBar_overall")->value())
+                 + ' ' + QString::number(cancellable), end);
     QCOMPARE(fake->count("inertial transceiver d01"), 1);
-    QVERIFY(fake->unexpected().isEmpty());
-}
-
-void tst_AddInertialSensorDlg::defaultChannelsFindSensors()
-{
-    scriptController(1);
-    fake->replies("inertial number_of_scanned_sensors", {"-1", "1", "-1", "3"});
-    fake->replies("inertial scanned_sensor d01", {"nv imu '2002' 35", "nv imu '2003' 55"});
-    fake->reply("inertial scanned_sensor d02", "nv imu '2004' 55");
-    fake->reply("inertial scanned_sensor d03", "nv imu '2002' 55");   // heard again: listed once
-    open([&] {
-        chooseMode("default channels");
-        w<QPushButton>("pushButton_scan")->click();
-        QCOMPARE(finish(), 2);
-    });
-
-    QCOMPARE(fake->count(dongleLine(35)), 1);
-    QCOMPARE(fake->count(dongleLine(55)), 1);
-    QCOMPARE(fake->count("inertial scan_transceiver_channel t01 usb"), 0);
-    QTableWidget* table = w<QTableWidget>("tableWidget");
-    QCOMPARE(table->rowCount(), 3);
-    QCOMPARE(table->item(0, 0)->text(), QString("2002"));
-    QCOMPARE(table->item(0, 3)->text(), QString("35"));
-    QCOMPARE(table->item(2, 0)->text(), QString("2004"));
-    QCOMPARE(table->item(2, 3)->text(), QString("55"));
-    QCOMPARE(w<QLabel>("label_channel")->text(), QString("Scanning channels done"));
-    QVERIFY(fake->unexpected().isEmpty());
-}
-
-void tst_AddInertialSensorDlg::scanCommandResult_data()
-{
-    QTest::addColumn<int>("sendResult");          // FakeController::NaturalResult: sent, answer pending
-    QTest::addColumn<int>("completion");
-    QTest::addColumn<QByteArray>("answer");
-    QTest::addColumn<bool>("waited");
-    QTest::addColumn<QStringList>("messages");
-    QTest::addColumn<QByteArray>("after");         // the line after the scan command
-
-    const QStringList failed{"Error: Unable to scan sensors"};
-    QTest::newRow("1, then completed") << int(FakeController::NaturalResult) << 0 << QByteArray("norvane ok")
-                                       << true << QStringList() << QByteArray("inertial number_of_scanned_sensors");
-    QTest::newRow("0 is a failure here") << 0 << 0 << QByteArray("norvane ok") << false << failed << QByteArray();
-    QTest::newRow("2 is a failure") << 2 << 0 << QByteArray("norvane ok") << false << failed << QByteArray();
-    QTest::newRow("completion fails") << int(FakeController::NaturalResult) << 4 << QByteArray("norvane ok")
-                                      << true << failed << QByteArray();
-    QTest::newRow("answer not ok") << int(FakeController::NaturalResult) << 0 << QByteArray("norvane ok ")
-                                   << true << QStringList() << QByteArray("inertial number_of_scan_channels 0");
-}
-
-void tst_AddInertialSensorDlg::scanCommandResult()
-{
-    QFETCH(int, sendResult);
-    QFETCH(int, completion);
-    QFETCH(QByteArray, answer);
-    QFETCH(bool, waited);
-    QFETCH(QStringList, messages);
-    QFETCH(QByteArray, after);
-
-    scriptController(0);
-    fake->reply("norvane inertial scan_sensors", answer, sendResult);
-    fake->set_completion_result(completion);
-    open([&] {
-        w<QPushButton>("pushButton_scan")->click();
-        QCOMPARE(finish(), 1);
-    });
-
-    const QList<FakeController::Call>& calls = fake->calls();
-    bool sawWait = false;
-    for (const FakeController::Call& call : calls)
-        sawWait = sawWait || call.operation == FakeController::WaitForCompletion;
-    QCOMPARE(sawWait, waited);
-    QCOMPARE(fake->message_texts(), messages);
-    const QList<QByteArray> rest = linesAfter("norvane inertial scan_sensors");
-    QCOMPARE(rest.value(1), after);
-    if (after != "inertial number_of_scanned_sensors")
-        QCOMPARE(rest.size(), after.isEmpty() ? 1 : 2);
-    // An error stop still ends in the "done" words: the message told the user.
-    QCOMPARE(w<QLabel>("label_channel")->text(), QString("Scanning USB done"));
-    QCOMPARE(w<QProgressBar>("progressBar_overall")->value(), 100);
-    QVERIFY(w<QPushButton>("pushButton_scan")->isEnabled());
+    QCOMPARE(fake->message_texts(), QStringList());
 }
 
 void tst_AddInertialSensorDlg::scanFailures_data()
 {
-    QTest::addColumn<QString>("mode");
-    QTest::addColumn<QByteArray>("failing");
-    QTest::addColumn<QString>("message");
-    QTest::addColumn<QByteArray>("last");     // the last line sent
+    QTest::addColumn<QByteArray>("line");    // fails, or answers `reply`
+    QTest::addColumn<QByteArray>("reply");
+    QTest::addColumn<QStringList>("messages");
+    QTest::addColumn<QByteArray>("last");    // the last line sent
     QTest::addColumn<int>("rows");
-    QTest::addColumn<int>("scans");   // scan commands sent
 
-    QTest::newRow("sensor count") << "USB" << QByteArray("inertial number_of_sensors")
-                                  << "Error: Unable to get numbers of sensor"
-                                  << QByteArray("inertial number_of_scan_channels 0") << 1 << 1;
-    QTest::newRow("known sensor") << "USB" << QByteArray("inertial sensor d01")
-                                  << "Error: Unable to get informations of sensor"
-                                  << QByteArray("inertial number_of_scan_channels 0") << 1 << 1;
-    QTest::newRow("scan channel count") << "USB" << QByteArray("inertial number_of_scan_channels 1")
-                                        << "Error: Unable to set channels to scan"
-                                        << QByteArray("inertial number_of_scan_channels 1") << 0 << 0;
-    QTest::newRow("usb scan setting") << "USB" << QByteArray("inertial scan_transceiver_channel t01 usb")
-                                      << "Error: Unable to scan channel of dongle 01"
-                                      << QByteArray("inertial scan_transceiver_channel t01 usb") << 0 << 0;
-    QTest::newRow("channel scan setting") << "all channels" << dongleLine(2)
-                                          << "Error: Unable to scan channel of dongle 01" << dongleLine(2) << 0 << 0;
-    QTest::newRow("scanned count") << "USB" << QByteArray("inertial number_of_scanned_sensors")
-                                   << "Error: Unable to get numbers of sensors to scan"
-                                   << QByteArray("inertial number_of_scanned_sensors") << 0 << 1;
-    QTest::newRow("scanned sensor") << "USB" << QByteArray("inertial scanned_sensor d01")
-                                    << "Error: Unable to get informations of sensor to add"
-                                    << QByteArray("inertial number_of_scan_channels 0") << 0 << 1;
-    QTest::newRow("model description") << "USB" << QByteArray("inertial sensor_model_desc nv imu")
-                                       << "Error: Unable to get description of sensor to add"
-                                       << QByteArray("inertial number_of_scan_channels 0") << 0 << 1;
-    QTest::newRow("vendor description") << "USB" << QByteArray("inertial sensor_vendor_desc nv")
-                                        << "Error: Unable to get vendor description of sensor to add"
-                                        << QByteArray("inertial number_of_scan_channels 0") << 0 << 1;
-    QTest::newRow("reset of the scan count goes on") << "default channels" << QByteArray("inertial number_of_scan_channels 0")
-                                                     << "Error: Unable to set channels to scan"
-                                                     << QByteArray("inertial number_of_scan_channels 0") << 1 << 2;
+    const QByteArray reset = "inertial number_of_scan_channels 0";
+    auto row = [](const char* name, const QByteArray& line, const QStringList& messages, const QByteArray& last,
+                  int rows, const QByteArray& reply = {}) {
+        QTest::newRow(name) << line << reply << messages << last << rows;
+    };
+    row("sensor count", "inertial number_of_sensors", {"Error: Unable to get numbers of sensor"}, reset, 3);
+    row("a paired sensor", "inertial sensor d02", {"Error: Unable to get informations of sensor"}, reset, 3);
+    row("scan slots", "inertial number_of_scan_channels 1", {"Error: Unable to set channels to scan"},
+        "inertial number_of_scan_channels 1", 0);
+    row("usb slot", "inertial scan_transceiver_channel t01 usb", {"Error: Unable to scan channel of dongle 01"},
+        "inertial scan_transceiver_channel t01 usb", 0);
+    row("scan not sent", "norvane inertial scan_sensors", {"Error: Unable to scan sensors"},
+        "norvane inertial scan_sensors", 0);
+    row("scan refused", "norvane inertial scan_sensors", {}, reset, 0, "norvane busy");
+    row("scanned count", Scanned, {"Error: Unable to get numbers of sensors to scan"}, Scanned, 0);
+    row("still scanning after 100 polls", Scanned, {}, reset, 0, "-1");
+    row("a scanned sensor", "inertial scanned_sensor d02", {"Error: Unable to get informations of sensor to add"},
+        reset, 1);
+    row("its model", "inertial sensor_model_desc NRV IMU6", {"Error: Unable to get description of sensor to add"},
+        reset, 2);
+    row("its vendor", "inertial sensor_vendor_desc NRV", {"Error: Unable to get vendor description of sensor to add"},
+        reset, 0);
+    row("no more sensors", "inertial scanned_sensor d02", {}, reset, 1, "");
+    row("a short line is skipped", "inertial scanned_sensor d02", {}, reset, 2, "NRV IMU9");
+    row("resetting the slots", reset, {"Error: Unable to set channels to scan"}, reset, 3);
 }
 
 void tst_AddInertialSensorDlg::scanFailures()
 {
-    QFETCH(QString, mode);
-    QFETCH(QByteArray, failing);
-    QFETCH(QString, message);
+    QFETCH(QByteArray, line);
+    QFETCH(QByteArray, reply);
+    QFETCH(QStringList, messages);
     QFETCH(QByteArray, last);
     QFETCH(int, rows);
-    QFETCH(int, scans);
 
-    scriptController(1);
-    scriptScanned({"nv imu '2002' 35"});
-    fake->fail(failing);
+    reply.isNull() ? fake->fail(line) : fake->reply(line, reply);
+    QString end;
     open([&] {
-        chooseMode(mode);
-        w<QPushButton>("pushButton_scan")->click();
-        finish();
+        QCOMPARE(scan("USB"), 1);
+        end = QString("%1 %2 %3%4%5").arg(w<QLabel>("label_channel")->text())
+                  .arg(w<QProgressBar>("progressBar_overall")->value()).arg(w("pushButton_exit")->isEnabled())
+                  .arg(w("comboBox_scanMode")->isEnabled()).arg(w("pushButton_apply")->isEnabled());
     });
-
-    QVERIFY(fake->message_texts().contains(message));
+    QCOMPARE(fake->message_texts(), messages);
     QCOMPARE(fake->lines().last(), last);
-    QCOMPARE(w<QTableWidget>("tableWidget")->rowCount(), rows);
-    QCOMPARE(fake->count("norvane inertial scan_sensors"), scans);
-    QVERIFY(w<QPushButton>("pushButton_scan")->isEnabled());
-    QVERIFY(w<QPushButton>("pushButton_exit")->isEnabled());
-    QVERIFY(w<QComboBox>("comboBox_scanMode")->isEnabled());
-    QCOMPARE(w<QProgressBar>("progressBar_overall")->value(), 100);
+    QCOMPARE(this->rows().size(), rows);
+    // An error stop ends in the "done" words: the message told the user.
+    QCOMPARE(end, QString("Scanning USB done 100 110"));
+    QCOMPARE(fake->count(Scanned), line == Scanned && reply == "-1" ? 100 : fake->count(Scanned));
 }
 
-void tst_AddInertialSensorDlg::pollTimesOut()
+void tst_AddInertialSensorDlg::haltedScanAndReopening()
 {
-    scriptController(0);
-    fake->reply("inertial number_of_scanned_sensors", "-1");
+    fake->fail("inertial transceiver d01");
+    QString refused;
     open([&] {
+        // Without the first transceiver's name no radio scan starts.
+        auto* modes = w<QComboBox>("comboBox_scanMode");
+        modes->setCurrentIndex(modes->findText("default channels"));
         w<QPushButton>("pushButton_scan")->click();
-        QCOMPARE(finish(), 1);
+        refused = w<QLabel>("label_channel")->text();
+        fake->reply("inertial transceiver d01", "NRV Dongle 'T1001'");
+        w<QPushButton>("pushButton_scan")->click();
+        QVERIFY(!dialog->close());   // refused while the scan can be cancelled
+        QTest::keyClick(dialog, Qt::Key_Escape);
+        QVERIFY(dialog->isVisible());   // Escape halts the scan, the dialog stays
+        QCOMPARE(fake->count("norvane inertial scan_sensors"), 0);
+        QTest::keyClick(dialog, Qt::Key_F3);   // no second scan while one is halted
+        QCOMPARE(fake->count("inertial number_of_sensors"), 1);
+        dialog->hide();
     });
-
-    QCOMPARE(fake->count("inertial number_of_scanned_sensors"), 100);
-    QCOMPARE(fake->lines().last(), QByteArray("inertial number_of_scan_channels 0"));
-    QVERIFY(fake->messages().isEmpty());
-    QCOMPARE(w<QTableWidget>("tableWidget")->rowCount(), 0);
-    QCOMPARE(w<QLabel>("label_channel")->text(), QString("Scanning USB done"));
-}
-
-void tst_AddInertialSensorDlg::blockedTickWaits()
-{
-    scriptController(0);
+    QCOMPARE(refused, QString("Scanning channel(s) aborted, could not get informations of dongle 1"));
+    QCOMPARE(fake->message_texts(), QStringList{"Error: Unable to get informations of dongle 1"});
+    // The next opening starts afresh, and F3 scans as the button does.
+    QStringList found;
     open([&] {
-        w<QPushButton>("pushButton_scan")->click();
-        fake->clear_log();
-        fake->set_blocked(true);
+        QVERIFY(w("pushButton_scan")->isEnabled() && w("pushButton_exit")->isEnabled());
+        QCOMPARE(w<QComboBox>("comboBox_scanMode")->currentText(), QString("USB"));
+        QTest::keyClick(dialog, Qt::Key_F3);
         tick();
-        QVERIFY(fake->lines().isEmpty());
-        QVERIFY(!w<QPushButton>("pushButton_scan")->isEnabled());
-        fake->set_blocked(false);
-        QCOMPARE(finish(), 1);
+        found = rows();
+        QVERIFY(dialog->close());
+    });
+    QCOMPARE(found.size(), 3);
+    // Cancel ends a scan halted by Escape.
+    open([&] {
+        auto* modes = w<QComboBox>("comboBox_scanMode");
+        modes->setCurrentIndex(modes->findText("all channels"));
+        w<QPushButton>("pushButton_scan")->click();
+        QTest::keyClick(dialog, Qt::Key_Escape);
+        w<QPushButton>("pushButton_cancel")->click();
+        QTRY_VERIFY(w("pushButton_scan")->isEnabled());
+        QCOMPARE(w<QLabel>("label_channel")->text(), QString("Scanning channels aborted"));
     });
     QCOMPARE(fake->count("norvane inertial scan_sensors"), 1);
-}
-
-void tst_AddInertialSensorDlg::knownSensorIsInert()
-{
-    scriptController(0);
-    scriptScanned({"nv imu '1001' 0", "nv imu '2002' 0"});
-    fake->reply("standard max_number_of_bodies", "4");
-    fake->reply("standard number_of_bodies", "1");
-    fake->reply("norvane inertial add_sensor nv imu '2002' 0", "norvane ok");
-    fake->reply("inertial sensor_has_storage nv imu '2002'", "yes");
-    fake->reply("body calibrated standard b01", "no");
-    fake->reply("body inertial_sensor standard b01", "none");
-    fake->accept("body inertial_sensor standard b01 nv imu '2002'");
-    open([&] {
-        w<QPushButton>("pushButton_scan")->click();
-        finish();
-        w<QCheckBox>("checkBox_acceptAll")->setChecked(true);
-        QTableWidget* table = w<QTableWidget>("tableWidget");
-        QCOMPARE(table->item(0, 4)->flags(), Qt::NoItemFlags);
-        QCOMPARE(table->item(0, 4)->checkState(), Qt::Unchecked);
-        QCOMPARE(table->item(1, 4)->checkState(), Qt::Checked);
-        fake->clear_log();
-        w<QPushButton>("pushButton_apply")->click();
-    });
-    QCOMPARE(fake->count("norvane inertial add_sensor nv imu '2002' 0"), 1);
-    for (const QByteArray& line : fake->lines())
-        QVERIFY2(!line.contains("1001"), line.constData());
-    QVERIFY(fake->unexpected().isEmpty());
 }
 
 void tst_AddInertialSensorDlg::acceptAllAndClicks()
 {
-    scriptController(0);
-    scriptScanned({"nv imu '2002' 0", "nv imu '2003' 0", "nv imu '2004' 0"});
+    QString warning;
     open([&] {
+        // "single channel" without a channel: nothing to scan.
+        answer_box(QMessageBox::Ok);
+        auto* modes = w<QComboBox>("comboBox_scanMode");
+        modes->setCurrentIndex(modes->findText("single channel"));
+        w<ChannelComboBox>("comboBox_channel")->setChannel(-1);
         w<QPushButton>("pushButton_scan")->click();
-        finish();
-        QTableWidget* table = w<QTableWidget>("tableWidget");
-        QPushButton* apply = w<QPushButton>("pushButton_apply");
-        QCheckBox* all = w<QCheckBox>("checkBox_acceptAll");
+        warning = box;
+        QCOMPARE(scan("USB"), 1);
+        auto* table = w<QTableWidget>("tableWidget");
+        auto* apply = w<QPushButton>("pushButton_apply");
+        auto* all = w<QCheckBox>("checkBox_acceptAll");
         QVERIFY(!apply->isEnabled());
-
         all->setChecked(true);
-        for (int row = 0; row < 3; ++row)
-            QCOMPARE(table->item(row, 4)->checkState(), Qt::Checked);
+        QCOMPARE(rows().join(' ').count(" x"), 2);
         QVERIFY(apply->isEnabled());
-
-        // A click on one Accept cell unticks "accept all" but keeps the others.
-        const QRect cell = table->visualItemRect(table->item(1, 4));
-        const QPoint indicator(cell.left() + 10, cell.center().y());
-        QTest::mouseClick(table->viewport(), Qt::LeftButton, Qt::NoModifier, indicator);
-        QCOMPARE(table->item(1, 4)->checkState(), Qt::Unchecked);
-        QVERIFY(!all->isChecked());
-        QCOMPARE(table->item(0, 4)->checkState(), Qt::Checked);
-        QCOMPARE(table->item(2, 4)->checkState(), Qt::Checked);
-        QVERIFY(apply->isEnabled());
-
-        all->setChecked(false);   // unchecked already: nothing changes
-        QCOMPARE(table->item(0, 4)->checkState(), Qt::Checked);
+        // A click on one Accept cell unticks "accept all" and keeps the others.
+        const QRect cell = table->visualItemRect(table->item(0, 4));
+        QTest::mouseClick(table->viewport(), Qt::LeftButton, Qt::NoModifier, QPoint(cell.left() + 10, cell.center().y()));
+        QCOMPARE(rows().join(',').remove("Norvane ").remove(" sensor 35"),
+                 QString("S0007 IMU9 o,S0001 IMU9 -,C0008 IMU6 x"));
+        QVERIFY(!all->isChecked() && apply->isEnabled());
         all->setChecked(true);
         all->setChecked(false);
-        for (int row = 0; row < 3; ++row)
-            QCOMPARE(table->item(row, 4)->checkState(), Qt::Unchecked);
         QVERIFY(!apply->isEnabled());
-
         table->item(2, 4)->setCheckState(Qt::Checked);   // by keyboard: no click
         QVERIFY(apply->isEnabled());
     });
-    QVERIFY(fake->unexpected().isEmpty());
-}
-
-void tst_AddInertialSensorDlg::singleChannel()
-{
-    scriptController(1);
-    bool chooserEnabled = false;
-    bool cancelDuringScan = true;
-    bool chooserDuringScan = true;
-    open([&] {
-        chooseMode("single channel");
-        ChannelComboBox* chooser = w<ChannelComboBox>("comboBox_channel");
-        chooserEnabled = chooser->isEnabled();
-        QCOMPARE(chooser->currentText(), QString("2"));
-        chooser->showPopup();   // pick 47 in the grid as a user does
-        chooser->table()->setCurrentCell(4, 6);
-        QTest::keyClick(chooser->table(), Qt::Key_Return);
-        QCOMPARE(chooser->currentText(), QString("47"));
-        w<QPushButton>("pushButton_scan")->click();
-        cancelDuringScan = w<QPushButton>("pushButton_cancel")->isEnabled();
-        chooserDuringScan = chooser->isEnabled();
-        QCOMPARE(finish(), 1);
-        QVERIFY(chooser->isEnabled());
-        chooseMode("USB");
-        QVERIFY(!chooser->isEnabled());
-        QCOMPARE(chooser->currentIndex(), -1);
-    });
-    QVERIFY(chooserEnabled);
-    QVERIFY(!cancelDuringScan);
-    QVERIFY(!chooserDuringScan);
-    QCOMPARE(fake->count(dongleLine(47)), 1);
-    QCOMPARE(fake->count("norvane inertial scan_sensors"), 1);
-    QCOMPARE(w<QLabel>("label_channel")->text(), QString("Scanning channel done"));
-}
-
-void tst_AddInertialSensorDlg::singleChannelNotChosen()
-{
-    scriptController(1);
-    QString warning;
-    open([&] {
-        chooseMode("single channel");
-        w<ChannelComboBox>("comboBox_channel")->setChannel(-1);
-        ModalDialogHelper::when_active("QMessageBox", [&](QWidget* box) {
-            warning = box->windowTitle() + ": " + static_cast<QMessageBox*>(box)->text();
-            ModalDialogHelper::press(box, QMessageBox::Ok);
-        });
-        fake->clear_log();
-        w<QPushButton>("pushButton_scan")->click();
-        QVERIFY(w<QPushButton>("pushButton_scan")->isEnabled());
-    });
     QCOMPARE(warning, QString("Warning: Please select a channel to scan"));
-    QVERIFY(fake->lines().isEmpty());
+    QCOMPARE(fake->message_texts(), QStringList());
 }
 
-void tst_AddInertialSensorDlg::cancelSeenAtNextTick()
+void tst_AddInertialSensorDlg::apply_data()
 {
-    scriptController(1);
-    open([&] {
-        chooseMode("all channels");
-        w<QPushButton>("pushButton_scan")->click();
-        tick();
-        tick();
-        const int sent = fake->lines().size();
-        w<QPushButton>("pushButton_cancel")->click();
-        QCOMPARE(fake->lines().size(), sent);   // nothing stops mid-channel
-        QVERIFY(!w<QPushButton>("pushButton_scan")->isEnabled());
-        tick();
-        QCOMPARE(fake->lines().size(), sent);
-        QVERIFY(w<QPushButton>("pushButton_scan")->isEnabled());
-        QVERIFY(!w<QPushButton>("pushButton_cancel")->isEnabled());
-    });
-    QCOMPARE(fake->count("norvane inertial scan_sensors"), 2);
-    QCOMPARE(w<QLabel>("label_channel")->text(), QString("Scanning channels aborted"));
-    QCOMPARE(w<QProgressBar>("progressBar_overall")->value(), 0);
+    QTest::addColumn<bool>("taken");        // every body of the count carries a sensor or is calibrated
+    QTest::addColumn<QByteArray>("line");   // fails, or answers `reply`
+    QTest::addColumn<QByteArray>("reply");
+    QTest::addColumn<QList<QByteArray>>("sent");   // settings and commands, in order
+    QTest::addColumn<QString>("accept");           // the Accept cells after
+    QTest::addColumn<QString>("shown");            // the messages, or the box
+
+    const QByteArray add7 = "norvane inertial add_sensor NRV IMU9 'S0007' 35";
+    const QByteArray add8 = "norvane inertial add_sensor NRV IMU6 'C0008' 35";
+    const QByteArray on3 = "body inertial_sensor standard b03 NRV IMU9 'S0007'";
+    const QByteArray on5 = "body inertial_sensor standard b05 NRV IMU6 'C0008'";
+    auto row = [](const char* name, bool taken, const QByteArray& line, const QList<QByteArray>& sent,
+                  const QString& accept, const QString& shown, const QByteArray& reply = {}) {
+        QTest::newRow(name) << taken << line << reply << sent << accept << shown;
+    };
+    row("the first free bodies", false, "", {add7, on3, add8, on5}, "- - -", "");
+    row("bodies raised up to the maximum", true, "", {add7, "standard number_of_bodies 7",
+        "body inertial_sensor standard b07 NRV IMU9 'S0007'", add8, "standard number_of_bodies 8",
+        "body inertial_sensor standard b08 NRV IMU6 'C0008'"}, "- - -", "");
+    row("maximum reached: taken off again", true, "standard max_number_of_bodies", {add7, add8,
+        "norvane inertial delete_sensor NRV IMU9 'S0007'", "norvane inertial delete_sensor NRV IMU6 'C0008'"},
+        "x - x", "Sensor adding failed: Following sensors are not added:\n\n'S0007'\n'C0008'\n\n because the "
+        "maximum number of bodies is reached.", "6");
+    row("no storage: no body", false, "inertial sensor_has_storage NRV IMU9 'S0007'",
+        {add7, add8, "body inertial_sensor standard b03 NRV IMU6 'C0008'"}, "- - -", "", "no");
+    row("storage unknown: a body anyway", false, "inertial sensor_has_storage NRV IMU9 'S0007'",
+        {add7, on3, add8, on5}, "- - -", "Error: Unable to get whether sensor has storage");
+    row("refused: told why, nothing more", false, add7, {add7}, "x - x",
+        "Information: Could not add sensor norvane err 7 not now", "norvane err 7 'not now'");
+    row("not sent", false, add7, {add7}, "x - x", "Error: Unable to add sensor");
+    row("maximum unknown", false, "standard max_number_of_bodies", {}, "x - x",
+        "Error: Unable to get max number of bodies");
+    row("count unknown", false, "standard number_of_bodies", {add7}, "x - x", "Error: Unable to get number of bodies");
+    row("calibration unknown", false, "body calibrated standard b01", {add7}, "x - x",
+        "Error: Unable to get calibration of body");
+    row("sensor of a body unknown", false, "body inertial_sensor standard b01", {add7}, "x - x",
+        "Error: Unable to get inertial information of body");
+    row("raising refused", true, "standard number_of_bodies 7", {add7, "standard number_of_bodies 7"}, "x - x",
+        "Error: Unable to set number of bodies");
+    row("placing refused", false, on3, {add7, on3}, "x - x", "Error: Unable to set inertial sensor to body");
 }
 
-void tst_AddInertialSensorDlg::closeAndEscapeDuringScan()
+void tst_AddInertialSensorDlg::apply()
 {
-    scriptController(1);
-    open([&] {
-        chooseMode("default channels");
-        w<QPushButton>("pushButton_scan")->click();
-        QVERIFY(!dlg->close());   // refused while the scan can be cancelled
-        QVERIFY(dlg->isVisible());
+    QFETCH(bool, taken);
+    QFETCH(QByteArray, line);
+    QFETCH(QByteArray, reply);
+    QFETCH(QList<QByteArray>, sent);
+    QFETCH(QString, accept);
+    QFETCH(QString, shown);
 
-        QTest::keyClick(dlg, Qt::Key_Escape);
-        QVERIFY(dlg->isVisible());
-        QVERIFY(!w<QPushButton>("pushButton_scan")->isEnabled());   // halted, still scanning
-        QTest::qWait(250);   // the halted timer really stays silent
-        QCOMPARE(fake->count("norvane inertial scan_sensors"), 0);
-
-        // Cancel still ends a halted scan.
-        w<QPushButton>("pushButton_cancel")->click();
-        QTRY_VERIFY(w<QPushButton>("pushButton_scan")->isEnabled());
-        QCOMPARE(w<QLabel>("label_channel")->text(), QString("Scanning channels aborted"));
-        QCOMPARE(fake->count("norvane inertial scan_sensors"), 0);
-
-        QVERIFY(dlg->close());   // idle: closing is fine
-    });
-    QVERIFY(!dlg->isVisible());
-}
-
-void tst_AddInertialSensorDlg::f3Scans()
-{
-    scriptController(0);
-    open([&] {
-        QTest::keyClick(dlg, Qt::Key_F3);
-        QVERIFY(!w<QPushButton>("pushButton_scan")->isEnabled());
-        QTest::keyClick(dlg, Qt::Key_F3);   // no second scan while one runs
-        QCOMPARE(finish(), 1);
-    });
-    QCOMPARE(fake->count("norvane inertial scan_sensors"), 1);
-    QCOMPARE(fake->count("inertial number_of_sensors"), 1);
-}
-
-void tst_AddInertialSensorDlg::applyPlacesSensors()
-{
-    // Body 1 is free, body 2 appears when the count is raised, and the
-    // third sensor finds no body below the maximum of 2.
-    scriptController(0);
-    scriptScanned({"nv imu '2002' 0", "nv imu '2003' 0", "nv imu '2004' 0"});
-    fake->set_stateful(true);
-    fake->reply("standard max_number_of_bodies", "2");
-    fake->reply("standard number_of_bodies", "1");
-    for (const QByteArray serial : {"2002", "2003", "2004"}) {
-        fake->reply("norvane inertial add_sensor nv imu '" + serial + "' 0", "norvane ok");
-        fake->reply("inertial sensor_has_storage nv imu '" + serial + "'", "yes");
+    for (const QByteArray& sensor : {QByteArray("NRV IMU9 'S0007'"), QByteArray("NRV IMU6 'C0008'")}) {
+        fake->reply("norvane inertial add_sensor " + sensor + " 35", "norvane ok");
+        fake->reply("norvane inertial delete_sensor " + sensor, "norvane ok");
+        fake->reply("inertial sensor_has_storage " + sensor, "yes");
     }
-    fake->reply("body calibrated standard b01", "no");
-    fake->reply("body calibrated standard b02", "no");
-    fake->reply("body inertial_sensor standard b01", "none");
-    fake->reply("body inertial_sensor standard b02", "none");
-    fake->reply("norvane inertial delete_sensor nv imu '2004'", "norvane ok");
-
-    QString warning;
+    for (const char* body : {"b03", "b05", "b06"})
+        fake->reply(QByteArray("body calibrated standard ") + body, taken ? "yes" : "no");
+    if (!line.isEmpty())
+        reply.isNull() ? fake->fail(line) : fake->reply(line, reply);
+    QString cells;
     open([&] {
-        w<QPushButton>("pushButton_scan")->click();
-        finish();
+        QCOMPARE(scan("USB"), 1);
         w<QCheckBox>("checkBox_acceptAll")->setChecked(true);
         fake->clear_log();
-        ModalDialogHelper::when_active("QMessageBox", [&](QWidget* box) {
-            warning = box->windowTitle() + ": " + static_cast<QMessageBox*>(box)->text();
-            ModalDialogHelper::press(box, QMessageBox::Ok);
-        });
+        if (shown.startsWith("Information") || shown.startsWith("Sensor adding failed"))
+            answer_box(QMessageBox::Ok);
         w<QPushButton>("pushButton_apply")->click();
-        QVERIFY(dlg->isVisible());   // adding leaves the dialog open
+        cells = rows().join(' ').remove(QRegularExpression("\\S+ Norvane IMU\\d sensor 35 "));
+        QVERIFY(dialog->isVisible() && !QApplication::overrideCursor());
     });
-
-    QCOMPARE(fake->lines(), QList<QByteArray>({
-        "standard max_number_of_bodies",
-        "norvane inertial add_sensor nv imu '2002' 0",
-        "standard number_of_bodies",
-        "inertial sensor_has_storage nv imu '2002'",
-        "body calibrated standard b01",
-        "body inertial_sensor standard b01",
-        "body inertial_sensor standard b01 nv imu '2002'",
-        "norvane inertial add_sensor nv imu '2003' 0",
-        "standard number_of_bodies",
-        "inertial sensor_has_storage nv imu '2003'",
-        "body calibrated standard b01",
-        "body inertial_sensor standard b01",
-        "standard number_of_bodies 2",
-        "body calibrated standard b02",
-        "body inertial_sensor standard b02",
-        "body inertial_sensor standard b02 nv imu '2003'",
-        "norvane inertial add_sensor nv imu '2004' 0",
-        "standard number_of_bodies",
-        "inertial sensor_has_storage nv imu '2004'",
-        "body calibrated standard b01",
-        "body inertial_sensor standard b01",
-        "body calibrated standard b02",
-        "body inertial_sensor standard b02",
-        "norvane inertial delete_sensor nv imu '2004'",
-    }));
-    QCOMPARE(warning, QString("Sensor adding failed: Following sensors are not added:\n\n'2004'\n\n"
-                              " because the maximum number of bodies is reached."));
-    QTableWidget* table = w<QTableWidget>("tableWidget");
-    QCOMPARE(table->item(0, 4)->flags(), Qt::NoItemFlags);
-    QCOMPARE(table->item(1, 4)->flags(), Qt::NoItemFlags);
-    QVERIFY(table->item(2, 4)->flags() & Qt::ItemIsUserCheckable);   // may be tried again
-    QVERIFY(fake->messages().isEmpty());
-    QVERIFY(fake->unexpected().isEmpty());
-}
-
-void tst_AddInertialSensorDlg::applyStorage_data()
-{
-    QTest::addColumn<int>("minor");
-    QTest::addColumn<QByteArray>("storage");   // empty: the query fails
-    QTest::addColumn<bool>("placed");
-    QTest::addColumn<QStringList>("messages");
-
-    QTest::newRow("1.21, with storage") << 21 << QByteArray("yes") << true << QStringList();
-    QTest::newRow("1.21, without storage") << 21 << QByteArray("no") << false << QStringList();
-    QTest::newRow("1.21, query fails") << 21 << QByteArray() << true
-                                       << QStringList{"Error: Unable to get whether sensor has storage"};
-    QTest::newRow("1.20 does not ask") << 20 << QByteArray("no") << true << QStringList();
-}
-
-void tst_AddInertialSensorDlg::applyStorage()
-{
-    QFETCH(int, minor);
-    QFETCH(QByteArray, storage);
-    QFETCH(bool, placed);
-    QFETCH(QStringList, messages);
-
-    versions.minor = minor;
-    scriptController(0);
-    scriptScanned({"nv imu '2002' 0"});
-    fake->reply("standard max_number_of_bodies", "2");
-    fake->reply("standard number_of_bodies", "1");
-    fake->reply("norvane inertial add_sensor nv imu '2002' 0", "norvane ok");
-    if (storage.isEmpty())
-        fake->fail("inertial sensor_has_storage nv imu '2002'");
-    else
-        fake->reply("inertial sensor_has_storage nv imu '2002'", storage);
-    fake->reply("body calibrated standard b01", "no");
-    fake->reply("body inertial_sensor standard b01", "none");
-    fake->accept("body inertial_sensor standard b01 nv imu '2002'");
-    open([&] {
-        w<QPushButton>("pushButton_scan")->click();
-        finish();
-        w<QCheckBox>("checkBox_acceptAll")->setChecked(true);
-        fake->clear_log();
-        w<QPushButton>("pushButton_apply")->click();
-        QCOMPARE(w<QTableWidget>("tableWidget")->item(0, 4)->flags(), Qt::NoItemFlags);
-        QVERIFY(!w<QPushButton>("pushButton_apply")->isEnabled());
-    });
-    QCOMPARE(fake->count("inertial sensor_has_storage nv imu '2002'"), minor >= 21 ? 1 : 0);
-    QCOMPARE(fake->count("body inertial_sensor standard b01 nv imu '2002'"), placed ? 1 : 0);
-    QCOMPARE(fake->message_texts(), messages);
-    QVERIFY(fake->unexpected().isEmpty());
-}
-
-void tst_AddInertialSensorDlg::applyFailures_data()
-{
-    QTest::addColumn<QByteArray>("failing");
-    QTest::addColumn<QString>("message");
-
-    QTest::newRow("max bodies") << QByteArray("standard max_number_of_bodies") << "Error: Unable to get max number of bodies";
-    QTest::newRow("add") << QByteArray("norvane inertial add_sensor nv imu '2002' 0") << "Error: Unable to add sensor";
-    QTest::newRow("body count") << QByteArray("standard number_of_bodies") << "Error: Unable to get number of bodies";
-    QTest::newRow("calibration") << QByteArray("body calibrated standard b01") << "Error: Unable to get calibration of body";
-    QTest::newRow("body sensor") << QByteArray("body inertial_sensor standard b01")
-                                 << "Error: Unable to get inertial information of body";
-    QTest::newRow("raising the count") << QByteArray("standard number_of_bodies 2") << "Error: Unable to set number of bodies";
-    QTest::newRow("assignment") << QByteArray("body inertial_sensor standard b02 nv imu '2002'")
-                                << "Error: Unable to set inertial sensor to body";
-    QTest::newRow("refused") << QByteArray() << "Information: Could not add sensor norvane error no room";
-}
-
-void tst_AddInertialSensorDlg::applyFailures()
-{
-    QFETCH(QByteArray, failing);
-    QFETCH(QString, message);
-
-    scriptController(0);
-    scriptScanned({"nv imu '2002' 0", "nv imu '2003' 0"});
-    fake->reply("standard max_number_of_bodies", "3");
-    fake->reply("standard number_of_bodies", "1");
-    fake->reply("norvane inertial add_sensor nv imu '2002' 0", "norvane ok");
-    fake->reply("inertial sensor_has_storage nv imu '2002'", "yes");
-    fake->reply("body calibrated standard b01", "no");
-    fake->reply("body inertial_sensor standard b01", "nv imu '1001'");
-    fake->accept("standard number_of_bodies 2");
-    fake->reply("body calibrated standard b02", "no");
-    fake->reply("body inertial_sensor standard b02", "none");
-    fake->accept("body inertial_sensor standard b02 nv imu '2002'");
-    if (failing.isEmpty())
-        fake->reply("norvane inertial add_sensor nv imu '2002' 0", "norvane error 'no room'");
-    else
-        fake->fail(failing);
-
-    QString box;
-    open([&] {
-        w<QPushButton>("pushButton_scan")->click();
-        finish();
-        w<QCheckBox>("checkBox_acceptAll")->setChecked(true);
-        fake->clear_log();
-        if (failing.isEmpty())
-            ModalDialogHelper::when_active("QMessageBox", [&](QWidget* b) {
-                box = b->windowTitle() + ": " + static_cast<QMessageBox*>(b)->text();
-                ModalDialogHelper::press(b, QMessageBox::Ok);
-            });
-        w<QPushButton>("pushButton_apply")->click();
-        QVERIFY(QApplication::overrideCursor() == nullptr);
-        QVERIFY(w<QPushButton>("pushButton_scan")->isEnabled());
-    });
-    if (failing.isEmpty()) {
-        QCOMPARE(box, message);
-        QVERIFY(fake->messages().isEmpty());
-    } else {
-        QCOMPARE(fake->message_texts(), QStringList{message});
-        QCOMPARE(fake->lines().last(), failing);
-    }
-    // The first failure ends adding: the second sensor is never tried.
-    QCOMPARE(fake->count("norvane inertial add_sensor nv imu '2003' 0"), 0);
-}
-
-void tst_AddInertialSensorDlg::absurdCounts()
-{
-    // A controller gone mad must cost a bounded number of round trips.
-    scriptController(1);
-    fake->reply("inertial number_of_transceivers", "2000000000");
-    fake->reply("inertial number_of_sensors", "2000000000");
-    fake->replies("inertial number_of_scanned_sensors", {"2000000000"});
-    fake->reply("inertial scanned_sensor d01", "nv");            // too short to be a sensor
-    fake->reply("inertial scanned_sensor d02", "nv imu '2002'"); // no channel word: the scanned one
-    fake->reply("inertial scanned_sensor d03", "");             // nothing more
-    open([&] {
-        chooseMode("single channel");
-        w<ChannelComboBox>("comboBox_channel")->setChannel(9);
-        w<QPushButton>("pushButton_scan")->click();
-        QCOMPARE(finish(), 1);
-    });
-    QVERIFY(fake->count("inertial sensor d01") == 1);
-    QVERIFY(fake->lines().size() < 600);
-    QTableWidget* table = w<QTableWidget>("tableWidget");
-    QCOMPARE(table->rowCount(), 1);
-    QCOMPARE(table->item(0, 0)->text(), QString("2002"));
-    QCOMPARE(table->item(0, 3)->text(), QString("9"));
+    QList<QByteArray> changes;
+    for (const FakeController::Call& call : fake->calls())
+        if (call.operation == FakeController::SetValue || call.operation == FakeController::SendCommand)
+            changes << call.line;
+    QCOMPARE(changes, sent);
+    QCOMPARE(cells, accept);
+    QCOMPARE(box.isEmpty() ? fake->message_texts().join('\n') : box, shown);
 }
 
 QTEST_MAIN(tst_AddInertialSensorDlg)

@@ -6,13 +6,13 @@
 
 #include "FakeController.h"
 #include "ModalDialogHelper.h"
-#include "calibration/InertialCalibrationDlg.h"
-#include "hybridbody/HybridBodyCalibrationDlg.h"
 #include "module/BackendVersions.h"
 #include "module/InertialTrackingModule.h"
-#include "settings/InertialSettingsDlg.h"
-#include "statusbar/InertialStatusBar.h"
+#include "module/VersionGate.h"
 
+// What the host gets from the module: its name, the four elements it
+// places in menus and the status bar, and their life from the first
+// get_gui_elements to exit_module.
 class tst_InertialTrackingModule : public QObject
 {
     Q_OBJECT
@@ -20,15 +20,12 @@ class tst_InertialTrackingModule : public QObject
 private slots:
     void init();
     void cleanup();
-    void nameAndVersion();
-    void records_data();
-    void records();
-    void widgetsAndReceivers();
-    void secondCallCreatesNothing();
-    void exitTwiceDeletesNothing();
-    void aboutToExitUnregisters();
+    void elements();
+    void lifecycle();
     void setParam_data();
     void setParam();
+    void versionGate_data();
+    void versionGate();
 
 private:
     void configure(InertialTrackingModule& module);
@@ -50,9 +47,7 @@ void tst_InertialTrackingModule::init()
 void tst_InertialTrackingModule::cleanup()
 {
     delete parent;
-    parent = nullptr;
     delete fake;
-    fake = nullptr;
     QCOMPARE(ModalDialogHelper::leaked_windows(), QStringList());
 }
 
@@ -64,122 +59,59 @@ void tst_InertialTrackingModule::configure(InertialTrackingModule& module)
     module.set_param("ObserverMode", true);
 }
 
-void tst_InertialTrackingModule::nameAndVersion()
+void tst_InertialTrackingModule::elements()
 {
-    InertialTrackingModule module;
-    QCOMPARE(module.get_module_name(), QStringLiteral("GUI Inertial Tracking"));
-    QCOMPARE(module.get_module_version(), QStringLiteral("v1.3.1"));
-}
-
-void tst_InertialTrackingModule::records_data()
-{
-    QTest::addColumn<int>("index");
-    QTest::addColumn<QString>("text");
-    QTest::addColumn<QString>("tip");
-    QTest::addColumn<QString>("menu");
-    QTest::addColumn<int>("menuPosition");
-    QTest::addColumn<int>("actionPosition");
-    QTest::addColumn<int>("type");
-
-    QTest::newRow("settings") << 0 << "In&ertial Sensor" << "Change the Inertial Sensor settings"
-                              << "&Settings" << 200 << 522 << 0;
-    QTest::newRow("hybrid body") << 1 << "&Hybrid Body" << "Calibrate a Hybrid Body"
-                                 << "&Calibration" << 300 << 720 << 0;
-    QTest::newRow("inertial calibration") << 2 << "In&ertial Sensor Calibration"
-                                          << "Calibrate a inertial sensor" << "&Calibration"
-                                          << 300 << 420 << 0;
-    QTest::newRow("status bar") << 3 << QString() << QString() << QString() << -1 << -1 << 1;
-}
-
-void tst_InertialTrackingModule::records()
-{
-    QFETCH(int, index);
-    QFETCH(QString, text);
-    QFETCH(QString, tip);
-    QFETCH(QString, menu);
-    QFETCH(int, menuPosition);
-    QFETCH(int, actionPosition);
-    QFETCH(int, type);
-
     InertialTrackingModule module;
     configure(module);
-    const QList<_GuiElement*> elements = module.get_gui_elements();
-    QCOMPARE(elements.size(), 4);
-    const _GuiElement* element = elements.at(index);
-    QCOMPARE(element->menu_name, menu);
-    QCOMPARE(element->menu_position, menuPosition);
-    QCOMPARE(element->action_position, actionPosition);
-    QCOMPARE(element->element_type, type);
-    QVERIFY(element->widget);
-    QCOMPARE(element->widget->parentWidget(), parent);
-    if (text.isEmpty()) {
-        QVERIFY(!element->action);
-    } else {
-        QVERIFY(element->action);
-        QCOMPARE(element->action->text(), text);
-        QCOMPARE(element->action->statusTip(), tip);
-        QCOMPARE(element->action->whatsThis(), tip);
-        QCOMPARE(element->action->parent(), &module);
+    QStringList seen{module.get_module_name() + ' ' + module.get_module_version()};
+    for (const _GuiElement* e : module.get_gui_elements()) {
+        QString entry = QString("%1 %2 %3 %4 %5").arg(e->menu_name).arg(e->menu_position).arg(e->action_position)
+                            .arg(e->element_type).arg(e->widget->metaObject()->className());
+        if (e->action)
+            entry += " | " + e->action->text() + " | " + e->action->statusTip() + " | " + e->action->whatsThis();
+        QVERIFY(e->widget->parentWidget() == parent && (!e->action || e->action->parent() == &module));
+        seen << entry;
     }
+    QCOMPARE(seen, (QStringList{
+        "GUI Inertial Tracking v1.3.1",
+        "&Settings 200 522 0 InertialSettingsDlg | In&ertial Sensor | Change the Inertial Sensor settings"
+        " | Change the Inertial Sensor settings",
+        "&Calibration 300 720 0 HybridBodyCalibrationDlg | &Hybrid Body | Calibrate a Hybrid Body | Calibrate a Hybrid Body",
+        "&Calibration 300 420 0 InertialCalibrationDlg | In&ertial Sensor Calibration | Calibrate a inertial sensor"
+        " | Calibrate a inertial sensor",
+        " -1 -1 1 InertialStatusBar"}));
     module.exit_module();
 }
 
-void tst_InertialTrackingModule::widgetsAndReceivers()
+void tst_InertialTrackingModule::lifecycle()
 {
+    fake->reply("inertial available", "yes");
+    fake->reply("inertial number_of_sensors", "2");
+    fake->reply("inertial warmup", "yes");
+    fake->reply("inertial warmup_status", "0.5");
     InertialTrackingModule module;
     configure(module);
     const QList<_GuiElement*> elements = module.get_gui_elements();
-    QVERIFY(qobject_cast<InertialSettingsDlg*>(elements.at(0)->widget));
-    QVERIFY(qobject_cast<HybridBodyCalibrationDlg*>(elements.at(1)->widget));
-    QVERIFY(qobject_cast<InertialCalibrationDlg*>(elements.at(2)->widget));
-    QVERIFY(qobject_cast<InertialStatusBar*>(elements.at(3)->widget));
-    QVERIFY(fake->receiver("InertialModule"));
-    QCOMPARE(fake->receiver("HybridBodyCalibration"),
-             static_cast<MessageReceiver*>(qobject_cast<HybridBodyCalibrationDlg*>(elements.at(1)->widget)));
-    module.exit_module();
-}
-
-void tst_InertialTrackingModule::secondCallCreatesNothing()
-{
-    InertialTrackingModule module;
-    configure(module);
-    const QList<_GuiElement*> first = module.get_gui_elements();
     const int children = parent->children().size();
-    const QList<_GuiElement*> second = module.get_gui_elements();
-    QCOMPARE(second, first);
+    QCOMPARE(module.get_gui_elements(), elements);   // built once
     QCOMPARE(parent->children().size(), children);
-    QCOMPARE(module.findChildren<QAction*>().size(), 3);
-    module.exit_module();
-}
+    QVERIFY(fake->receiver("InertialModule") && fake->receiver("HybridBodyCalibration"));
 
-void tst_InertialTrackingModule::exitTwiceDeletesNothing()
-{
-    InertialTrackingModule module;
-    configure(module);
-    const QList<_GuiElement*> elements = module.get_gui_elements();
     QList<QPointer<QWidget>> widgets;
     for (const _GuiElement* element : elements)
         widgets << element->widget;
+    auto* status = elements.at(3)->widget;
     module.about_to_exit_module();
+    QVERIFY(!fake->receiver("InertialModule") && !fake->receiver("HybridBodyCalibration"));
+    // The status bar stops polling: no timer of it runs on.
+    for (QTimer* timer : status->findChildren<QTimer*>())
+        QVERIFY2(!timer->isActive(), qPrintable(timer->objectName()));
     module.exit_module();
-    for (const QPointer<QWidget>& widget : widgets)
-        QVERIFY(widget.isNull());
-    for (const _GuiElement* element : elements)
-        QVERIFY(!element->widget);
+    for (int i = 0; i < widgets.size(); ++i)
+        QVERIFY(widgets.at(i).isNull() && !elements.at(i)->widget);
     QVERIFY(parent->findChildren<QWidget*>().isEmpty());
-    module.exit_module();   // must not touch anything a second time
-    QVERIFY(module.get_gui_elements().size() == 4);   // built anew after an exit
-    module.exit_module();
-}
-
-void tst_InertialTrackingModule::aboutToExitUnregisters()
-{
-    InertialTrackingModule module;
-    configure(module);
-    module.get_gui_elements();
-    module.about_to_exit_module();
-    QVERIFY(!fake->receiver("InertialModule"));
-    QVERIFY(!fake->receiver("HybridBodyCalibration"));
+    module.exit_module();   // nothing left to delete
+    QCOMPARE(module.get_gui_elements().size(), 4);   // built anew after an exit
     module.exit_module();
 }
 
@@ -188,16 +120,16 @@ void tst_InertialTrackingModule::setParam_data()
     QTest::addColumn<QString>("key");
     QTest::addColumn<QVariant>("value");
 
-    QTest::newRow("io manager as int") << "CommandManager" << QVariant(42);
-    QTest::newRow("versions as string") << "BackendVersions" << QVariant(QStringLiteral("1.21.0"));
-    QTest::newRow("parent as int") << "ModuleParent" << QVariant(7);
+    QTest::newRow("io manager as a number") << "CommandManager" << QVariant(42);
+    QTest::newRow("versions as text") << "BackendVersions" << QVariant(QStringLiteral("1.21.0"));
+    QTest::newRow("parent as a number") << "ModuleParent" << QVariant(7);
     QTest::newRow("unknown key") << "SomethingElse" << QVariant(true);
-    QTest::newRow("observer as string") << "ObserverMode" << QVariant(QStringLiteral("yes"));
+    QTest::newRow("observer mode as text") << "ObserverMode" << QVariant(QStringLiteral("yes"));
 }
 
-// A parameter of the wrong type clears the member; with the io manager or the
-// parent cleared no receiver is registered or the dialogs lose their parent,
-// which is what the test can see from outside.
+// A parameter of the wrong type clears what it stands for: without the io
+// manager nothing registers, without versions every gated feature is off,
+// without the parent the dialogs have none.
 void tst_InertialTrackingModule::setParam()
 {
     QFETCH(QString, key);
@@ -206,12 +138,41 @@ void tst_InertialTrackingModule::setParam()
     InertialTrackingModule module;
     configure(module);
     module.set_param(key, value);
+    fake->reply("inertial available", "yes");
+    fake->reply("inertial number_of_sensors", "2");
+    fake->reply("inertial warmup", "no");
     const QList<_GuiElement*> elements = module.get_gui_elements();
-    const bool ioCleared = key == QLatin1String("CommandManager");
-    const bool parentCleared = key == QLatin1String("ModuleParent");
-    QCOMPARE(fake->receiver("InertialModule") == nullptr, ioCleared);
-    QCOMPARE(elements.at(0)->widget->parentWidget() == nullptr, parentCleared);
+    QCOMPARE(fake->receiver("InertialModule") == nullptr, key == "CommandManager");
+    QCOMPARE(elements.at(0)->widget->parentWidget() == nullptr, key == "ModuleParent");
+    QCOMPARE(fake->lines().isEmpty(), key == "CommandManager" || key == "BackendVersions");
     module.exit_module();
+}
+
+void tst_InertialTrackingModule::versionGate_data()
+{
+    QTest::addColumn<QList<int>>("version");   // major, minor, patch
+    QTest::addColumn<QList<int>>("gate");      // major, minor
+    QTest::addColumn<bool>("available");
+
+    QTest::newRow("1.12.-1 passes 1.12") << QList<int>{1, 12, -1} << QList<int>{1, 12} << true;
+    QTest::newRow("1.12.-2 fails 1.12") << QList<int>{1, 12, -2} << QList<int>{1, 12} << false;
+    QTest::newRow("1.11.99 fails 1.12") << QList<int>{1, 11, 99} << QList<int>{1, 12} << false;
+    QTest::newRow("1.13.0 passes 1.12") << QList<int>{1, 13, 0} << QList<int>{1, 12} << true;
+    QTest::newRow("2.0.0 passes 1.21") << QList<int>{2, 0, 0} << QList<int>{1, 21} << true;
+    QTest::newRow("0.99.9 fails 1.4") << QList<int>{0, 99, 9} << QList<int>{1, 4} << false;
+}
+
+void tst_InertialTrackingModule::versionGate()
+{
+    QFETCH(QList<int>, version);
+    QFETCH(QList<int>, gate);
+    QFETCH(bool, available);
+
+    versions.major = version.at(0);
+    versions.minor = version.at(1);
+    versions.patch = version.at(2);
+    QCOMPARE(VersionGate::available(&versions, gate.at(0), gate.at(1)), available);
+    QVERIFY(!VersionGate::available(nullptr, 0, 0));
 }
 
 QTEST_MAIN(tst_InertialTrackingModule)

@@ -24,18 +24,8 @@
 class FakeController : public IOManager
 {
 public:
-    enum Operation {
-        SetTimeout,
-        SendCommand,
-        WaitForCompletion,
-        GetString,
-        GetInt,
-        GetDouble,
-        GetBool,
-        GetDoubles,
-        GetInts,
-        SetValue,
-    };
+    enum Operation { SetTimeout, SendCommand, WaitForCompletion, GetString, GetInt, GetDouble, GetBool,
+                     GetDoubles, GetInts, SetValue };
 
     struct Call
     {
@@ -61,15 +51,17 @@ public:
     ~FakeController() override;
 
     // --- script -----------------------------------------------------------
-    void reply(const QByteArray& line, const QByteArray& answer, int result = NaturalResult);
-    void replies(const QByteArray& line, const QList<QByteArray>& answers);
-    void fail(const QByteArray& line, int result = 1);
-    void accept(const QByteArray& setting);
-    void forget(const QByteArray& line);
-    void set_stateful(bool stateful);
-    void set_blocked(bool blocked);
+    void reply(const QByteArray& line, const QByteArray& answer, int result = NaturalResult)
+    { script.insert(line, Script{{answer}, 0, result}); }
+    void replies(const QByteArray& line, const QList<QByteArray>& answers)
+    { script.insert(line, Script{answers, 0, NaturalResult}); }
+    void fail(const QByteArray& line, int result = 1) { script.insert(line, Script{{}, 0, result}); }
+    void accept(const QByteArray& setting) { reply(setting, QByteArray(), 0); }
+    void forget(const QByteArray& line) { script.remove(line); }
+    void set_stateful(bool on) { stateful = on; }
+    void set_blocked(bool on) { blocked = on; }
     // Result of wait_for_completion for the pending asynchronous command.
-    void set_completion_result(int result);
+    void set_completion_result(int result) { completion_result = result; }
 
     // --- what happened ----------------------------------------------------
     const QList<Call>& calls() const { return call_log; }
@@ -110,9 +102,8 @@ private:
         int result = NaturalResult;
     };
 
-    void record(Operation operation, const QByteArray& line);
-    // The scripted answer of a line: its result, and the text in *answer.
-    int answer(const QByteArray& line, QByteArray* answer);
+    // Records the line; its scripted result, and the answer in *text.
+    int answer(Operation operation, const QByteArray& line, QByteArray* text);
     int copy_reply(const QByteArray& text, char* reply) const;
     bool apply_setting(const QByteArray& line);
 
