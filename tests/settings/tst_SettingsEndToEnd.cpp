@@ -2,12 +2,9 @@
 
 #include <QAction>
 #include <QComboBox>
-#include <QDialog>
 #include <QMessageBox>
 #include <QPushButton>
 #include <QTableWidget>
-
-#include <functional>
 
 #include "HostHarness.h"
 #include "ModalDialogHelper.h"
@@ -79,10 +76,7 @@ QByteArray tst_SettingsEndToEnd::ask(const QByteArray& path) const
 
 int tst_SettingsEndToEnd::row_of(QTableWidget* table, const QString& id)
 {
-    for (int row = 0; row < table->rowCount(); ++row)
-        if (table->item(row, 0)->text() == id)
-            return row;
-    return -1;
+    return table->findItems(id, Qt::MatchExactly).value(0)->row();
 }
 
 void tst_SettingsEndToEnd::choose(QComboBox* combo, const QString& text)

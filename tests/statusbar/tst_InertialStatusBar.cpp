@@ -13,26 +13,8 @@
 #include "statusbar/InertialStatusBar.h"
 #include "statusbar/TemperatureBar.h"
 
-namespace {
-
-const QByteArray Available = "inertial available";
-const QByteArray Count = "inertial number_of_sensors";
-const QByteArray Warmup = "inertial warmup";
-const QByteArray Progress = "inertial warmup_status";
-
-// A bar as the user sees it: value, text colour, border colour and chunk.
-QString look(const QProgressBar& bar)
-{
-    const QString sheet = bar.styleSheet();
-    const QRegularExpression colours("color: (\\w+);.*border-top: 2px solid (\\w+);.*::chunk \\{ (.*) \\}$");
-    const QRegularExpressionMatch m = colours.match(sheet);
-    return QString("%1 %2/%3 %4").arg(bar.value()).arg(m.captured(1), m.captured(2), m.captured(3));
-}
-
-} // namespace
-
 // The status widget against the scripted controller: its own availability
-// rule, the three states its polls move it between, the warm-up button,
+// rule, the three states its two polls move it between, the warm-up button,
 // and the two bars' colours.
 class tst_InertialStatusBar : public QObject
 {
@@ -43,22 +25,20 @@ private slots:
     void cleanup();
     void bars_data();
     void bars();
-    void availability_data();
-    void availability();
     void polls_data();
     void polls();
     void button_data();
     void button();
     void blockedChangesNothing();
-    void aboutToExit();
 
 private:
-    // "<fail>" makes a line fail.
-    void script(const QByteArray& available, const QByteArray& count, const QByteArray& warmup,
-                const QByteArray& progress = "0.4");
-    void make();
-    // Button text and enabled, bar shown, value and format, progress poll running.
+    // The controller's answers to "inertial available", "inertial
+    // number_of_sensors", "inertial warmup" and "inertial warmup_status";
+    // "-" makes one fail.
+    void answer(const QList<QByteArray>& answers);
+    // The button, the bar and whether the progress poll runs.
     QString state() const;
+    QTimer* timer(const char* name) const { return status->findChild<QTimer*>(name); }
 
     FakeController* fake = nullptr;
     BackendVersions versions;
@@ -83,55 +63,47 @@ void tst_InertialStatusBar::cleanup()
     QCOMPARE(ModalDialogHelper::leaked_windows(), QStringList());
 }
 
-void tst_InertialStatusBar::script(const QByteArray& available, const QByteArray& count, const QByteArray& warmup,
-                                   const QByteArray& progress)
+void tst_InertialStatusBar::answer(const QList<QByteArray>& answers)
 {
-    const QList<QPair<QByteArray, QByteArray>> lines{{Available, available}, {Count, count}, {Warmup, warmup},
-                                                     {Progress, progress}};
-    for (const auto& line : lines)
-        line.second == "<fail>" ? fake->fail(line.first) : fake->reply(line.first, line.second);
-}
-
-void tst_InertialStatusBar::make()
-{
-    status = std::make_unique<InertialStatusBar>(fake, window, &versions);
+    const QList<QByteArray> lines{"inertial available", "inertial number_of_sensors", "inertial warmup",
+                                  "inertial warmup_status"};
+    for (int i = 0; i < lines.size(); ++i)
+        answers.at(i) == "-" ? fake->fail(lines.at(i)) : fake->reply(lines.at(i), answers.at(i));
 }
 
 QString tst_InertialStatusBar::state() const
 {
     auto* button = status->findChild<QToolButton*>("pushButton_startWarmup");
     auto* bar = status->findChild<TemperatureBar*>("progressBar_warmup");
-    QAction* action = nullptr;
-    for (QAction* a : status->actions())
-        action = status->widgetForAction(a) == bar ? a : action;
-    return QString("%1%2 %3 %4 %5 %6").arg(button->text(), button->isEnabled() ? "" : " (off)")
-        .arg(action->isVisible() ? "shown" : "hidden").arg(bar->value()).arg(bar->text())
-        .arg(status->findChild<QTimer*>("progressTimer")->isActive() ? "polling" : "idle");
+    QAction* action = status->actions().value(1);
+    return QString("%1%2, bar %3 %4 \"%5\", %6").arg(button->text(), button->isEnabled() ? "" : " (off)")
+        .arg(status->widgetForAction(action) == bar && action->isVisible() ? "shown" : "hidden").arg(bar->value())
+        .arg(bar->text()).arg(timer("progressTimer")->isActive() ? "polling" : "idle");
 }
 
 void tst_InertialStatusBar::bars_data()
 {
     QTest::addColumn<bool>("battery");
     QTest::addColumn<double>("value");
-    QTest::addColumn<QString>("look");
+    QTest::addColumn<QString>("look");   // value, text and border colour, chunk
 
-    // Battery: a fraction, green from 20; temperature: as it stands, green from 95.
+    // A battery takes a fraction and is green from 20; a temperature is taken as it stands, green from 95.
     QTest::newRow("battery 0.195 is 19, red") << true << 0.195 << "19 black/red background-color: #FF0000;";
     QTest::newRow("battery 0.2 is 20, green") << true << 0.2 << "20 black/black background-color: #4CFF00;";
     QTest::newRow("battery 0.999 is 99") << true << 0.999 << "99 black/black background-color: #4CFF00;";
-    QTest::newRow("battery 1.5 is full, rounded")
-        << true << 1.5 << "100 black/black background-color: #4CFF00; border-radius: 2px;";
-    QTest::newRow("battery negative is unknown")
-        << true << -0.01 << "0 white/white background-color: #FFFFFF; border-radius: 2px;";
-    QTest::newRow("battery not a number is unknown")
-        << true << qQNaN() << "0 white/white background-color: #FFFFFF; border-radius: 2px;";
+    QTest::newRow("battery 1.5 is full, rounded") << true << 1.5 << "100 black/black background-color: #4CFF00; "
+                                                                   "border-radius: 2px;";
+    QTest::newRow("battery negative: unknown") << true << -0.01 << "0 white/white background-color: #FFFFFF; "
+                                                                  "border-radius: 2px;";
+    QTest::newRow("battery not a number: unknown") << true << qQNaN() << "0 white/white background-color: #FFFFFF; "
+                                                                         "border-radius: 2px;";
     QTest::newRow("temperature 94.9 is 94, red") << false << 94.9 << "94 black/black background-color: #FF0000;";
     QTest::newRow("temperature 95 is green") << false << 95.0 << "95 black/black background-color: #4CFF00;";
-    QTest::newRow("temperature 100 rounded")
-        << false << 100.0 << "100 black/black background-color: #4CFF00; border-radius: 2px;";
-    QTest::newRow("temperature -1 is unknown") << false << -1.0 << "0 white/white background-color: #FF0000;";
-    QTest::newRow("temperature -0.5 truncates to 0") << false << -0.5 << "0 black/black background-color: #FF0000;";
-    QTest::newRow("temperature not a number") << false << qQNaN() << "0 white/white background-color: #FF0000;";
+    QTest::newRow("temperature 100 rounded") << false << 100.0 << "100 black/black background-color: #4CFF00; "
+                                                                  "border-radius: 2px;";
+    QTest::newRow("temperature -1: unknown") << false << -1.0 << "0 white/white background-color: #FF0000;";
+    QTest::newRow("temperature -0.5 is 0") << false << -0.5 << "0 black/black background-color: #FF0000;";
+    QTest::newRow("temperature not a number: unknown") << false << qQNaN() << "0 white/white background-color: #FF0000;";
 }
 
 void tst_InertialStatusBar::bars()
@@ -145,128 +117,103 @@ void tst_InertialStatusBar::bars()
     QProgressBar& bar = battery ? static_cast<QProgressBar&>(charge) : warmth;
     QCOMPARE(QString("%1 %2 %3").arg(bar.minimum()).arg(bar.maximum()).arg(bar.value()), QString("0 100 0"));
     battery ? charge.setValue(value) : warmth.setValue(value);
-    QCOMPARE(::look(bar), look);
-    QVERIFY(bar.styleSheet().startsWith(battery ? "BatteryBar { " : "TemperatureBar { "));
-    QVERIFY(bar.styleSheet().contains(battery ? "BatteryBar::chunk" : "QProgressBar::chunk"));
+    const QRegularExpression parts("^(\\w+) \\{ color: (\\w+);.*border-top: 2px solid (\\w+);.* (\\S+) \\{ (.*) \\}$");
+    const QRegularExpressionMatch m = parts.match(bar.styleSheet());
+    QCOMPARE(QString("%1 %2/%3 %4").arg(bar.value()).arg(m.captured(2), m.captured(3), m.captured(5)), look);
+    QCOMPARE(m.captured(1) + ' ' + m.captured(4), battery ? "BatteryBar BatteryBar::chunk"
+                                                          : "TemperatureBar QProgressBar::chunk");
     // The temperature's text is its own; the value stays.
     warmth.setTemperature(23.46);
     QCOMPARE(warmth.text(), QString("23.5\u00b0C"));
 }
 
-void tst_InertialStatusBar::availability_data()
-{
-    QTest::addColumn<int>("minor");
-    QTest::addColumn<QByteArray>("available");
-    QTest::addColumn<QByteArray>("count");
-    QTest::addColumn<QString>("state");   // after construction
-    QTest::addColumn<QList<QByteArray>>("asked");
-
-    const QString off = "Warmup start (off) hidden 0  idle";
-    const QString idle = "Warmup start shown 0  idle";
-    const QList<QByteArray> both{Available, Count};
-    QTest::newRow("1.11: nothing asked") << 11 << QByteArray("yes") << QByteArray("2") << off << QList<QByteArray>{};
-    QTest::newRow("available") << 21 << QByteArray("yes") << QByteArray("2") << idle << both;
-    QTest::newRow("said no") << 21 << QByteArray("no") << QByteArray("2") << off << QList<QByteArray>{Available};
-    QTest::newRow("compared whole") << 21 << QByteArray("yes please") << QByteArray("2") << off
-                                    << QList<QByteArray>{Available};
-    QTest::newRow("unanswered counts as yes") << 21 << QByteArray("<fail>") << QByteArray("1") << idle << both;
-    QTest::newRow("no sensors, nothing to warm") << 21 << QByteArray("yes") << QByteArray("0") << off << both;
-    QTest::newRow("count unanswered") << 21 << QByteArray("yes") << QByteArray("<fail>") << off << both;
-}
-
-void tst_InertialStatusBar::availability()
-{
-    QFETCH(int, minor);
-    QFETCH(QByteArray, available);
-    QFETCH(QByteArray, count);
-    QFETCH(QString, state);
-    QFETCH(QList<QByteArray>, asked);
-
-    versions.minor = minor;
-    script(available, count, "no");
-    make();
-    QCOMPARE(this->state(), state);
-    fake->clear_log();
-    QCOMPARE(status->is_inertial_available(), state.contains("shown"));
-    QCOMPARE(fake->lines(), asked);
-    QCOMPARE(fake->message_texts(), QStringList());
-    QCOMPARE(status->findChild<QTimer*>("statusTimer")->isActive(), true);
-    QCOMPARE(status->parentWidget(), window);
-}
-
 void tst_InertialStatusBar::polls_data()
 {
-    QTest::addColumn<QByteArray>("warmup");     // at construction
-    QTest::addColumn<QList<QByteArray>>("then");  // warm-up, count, progress answers for the polls
-    QTest::addColumn<QString>("state");         // after the status poll, then after the progress poll
-    QTest::addColumn<QStringList>("messages");
+    QTest::addColumn<int>("minor");
+    QTest::addColumn<QList<QByteArray>>("before");   // the answers at construction
+    QTest::addColumn<QList<QByteArray>>("after");    // the answers to the polls
+    QTest::addColumn<QString>("states");             // built (lines asked), after the status poll, after the progress poll
+    QTest::addColumn<QString>("messages");
 
-    const QString warming = "Warmup stop shown 40 Warmup is running 40%... polling";
-    QTest::newRow("idle stays idle") << QByteArray("no") << QList<QByteArray>{"no", "2", "0.4"}
-        << "Warmup start shown 0  idle\nWarmup start shown 0  idle" << QStringList();
-    QTest::newRow("started elsewhere shows") << QByteArray("no") << QList<QByteArray>{"yes", "2", "0.25"}
-        << "Warmup stop shown 25 Warmup is running 25%... polling\n"
-           "Warmup stop shown 25 Warmup is running 25%... polling" << QStringList();
-    QTest::newRow("progress floors 0.999 to 99") << QByteArray("yes") << QList<QByteArray>{"yes", "2", "0.999"}
-        << warming + "\nWarmup stop shown 99 Warmup is running 99%... polling" << QStringList();
-    QTest::newRow("progress beyond 1 is full") << QByteArray("yes") << QList<QByteArray>{"yes", "2", "2e9"}
-        << warming + "\nWarmup stop shown 100 Warmup is running 100%... polling" << QStringList();
-    QTest::newRow("progress below 0 is empty") << QByteArray("yes") << QList<QByteArray>{"yes", "2", "-0.3"}
-        << warming + "\nWarmup stop shown 0 Warmup is running 0%... polling" << QStringList();
-    QTest::newRow("progress unknown keeps the bar") << QByteArray("yes") << QList<QByteArray>{"yes", "2", "<fail>"}
-        << warming + '\n' + warming << QStringList{"Error: Unable to get warmup status"};
-    QTest::newRow("progress not finite keeps the bar") << QByteArray("yes") << QList<QByteArray>{"yes", "2", "nan"}
-        << warming + '\n' + warming << QStringList{"Error: Unable to get warmup status"};
-    QTest::newRow("ended by the controller") << QByteArray("yes") << QList<QByteArray>{"no", "2", "0.4"}
-        << "Warmup start shown 0  idle\nWarmup start shown 0  idle" << QStringList();
-    QTest::newRow("warm-up state unknown") << QByteArray("yes") << QList<QByteArray>{"<fail>", "2", "0.4"}
-        << "Warmup start shown 0  idle\nWarmup start shown 0  idle" << QStringList{"Could not get warmup status"};
-    QTest::newRow("last sensor gone") << QByteArray("yes") << QList<QByteArray>{"yes", "0", "0.4"}
-        << "Warmup stop (off) hidden 40  polling\nWarmup start (off) hidden 0  idle"
-        << QStringList();
+    const QList<QByteArray> idle{"yes", "2", "no", "0.4"};
+    const QList<QByteArray> warming{"yes", "2", "yes", "0.4"};
+    const QString off = "Warmup start (off), bar hidden 0 \"\", idle";
+    const QString ready = "Warmup start, bar shown 0 \"\", idle";
+    const QString running = "Warmup stop, bar shown 40 \"Warmup is running 40%...\", polling";
+    const QString started = "Warmup stop, bar shown 40 \"\", polling [7]\n" + running + '\n';   // no text before a status poll
+    auto row = [&](const char* name, int minor, const QList<QByteArray>& before, const QList<QByteArray>& after,
+                   const QString& states, const QString& messages = {}) {
+        QTest::newRow(name) << minor << before << after << states << messages;
+    };
+    row("1.11: nothing asked", 11, idle, idle, off + " [0]\n" + off + '\n' + off);
+    row("idle stays idle", 21, idle, idle, ready + " [4]\n" + ready + '\n' + ready);
+    row("said no", 21, {"no", "2", "no", "0"}, idle, off + " [1]\n" + ready + '\n' + ready);
+    row("compared whole", 21, {"yes please", "2", "no", "0"}, {"yes please", "2", "no", "0"}, off + " [1]\n" + off + '\n'
+        + off);
+    row("unanswered counts as yes", 21, {"-", "1", "no", "0"}, idle, ready + " [4]\n" + ready + '\n' + ready);
+    row("no sensors, nothing to warm", 21, {"yes", "0", "no", "0"}, idle, off + " [2]\n" + ready + '\n' + ready);
+    row("count unanswered", 21, {"yes", "-", "no", "0"}, idle, off + " [2]\n" + ready + '\n' + ready);
+    row("count unreadable", 21, {"yes", "two", "no", "0"}, idle, ready + " [4]\n" + ready + '\n' + ready,
+        "Could not get number of sensors");
+    row("warming already", 21, warming, warming, started + running);
+    row("started elsewhere", 21, idle, {"yes", "2", "yes", "0.25"}, ready + " [4]\nWarmup stop, bar shown 25 \"Warmup is "
+        "running 25%...\", polling\nWarmup stop, bar shown 25 \"Warmup is running 25%...\", polling");
+    row("0.999 floors to 99", 21, warming, {"yes", "2", "yes", "0.999"}, started + QString(running).replace("40", "99"));
+    row("beyond 1 is full", 21, warming, {"yes", "2", "yes", "2e9"}, started + QString(running).replace("40", "100"));
+    row("below 0 is empty", 21, warming, {"yes", "2", "yes", "-0.3"}, started + QString(running).replace("40", "0"));
+    row("progress unknown: the bar kept", 21, warming, {"yes", "2", "yes", "-"}, started + running,
+        "Error: Unable to get warmup status");
+    row("progress not finite: the bar kept", 21, warming, {"yes", "2", "yes", "nan"}, started + running,
+        "Error: Unable to get warmup status");
+    row("ended by the controller", 21, warming, idle, started.section('\n', 0, 0) + '\n' + ready + '\n' + ready);
+    row("warm-up state unknown", 21, idle, {"yes", "2", "-", "0.4"}, ready + " [4]\n" + ready + '\n' + ready,
+        "Could not get warmup status");
+    row("the last sensor gone", 21, warming, {"yes", "0", "yes", "0.4"}, started.section('\n', 0, 0) + "\nWarmup stop "
+        "(off), bar hidden 40 \"\", polling\n" + off);
 }
 
 void tst_InertialStatusBar::polls()
 {
-    QFETCH(QByteArray, warmup);
-    QFETCH(QList<QByteArray>, then);
-    QFETCH(QString, state);
-    QFETCH(QStringList, messages);
+    QFETCH(int, minor);
+    QFETCH(QList<QByteArray>, before);
+    QFETCH(QList<QByteArray>, after);
+    QFETCH(QString, states);
+    QFETCH(QString, messages);
 
-    script("yes", "2", warmup);
-    make();
-    QCOMPARE(fake->message_texts(), QStringList());
-    script("yes", then.at(1), then.at(0), then.at(2));
+    versions.minor = minor;
+    answer(before);
+    status = std::make_unique<InertialStatusBar>(fake, window, &versions);
+    QStringList seen{state() + QString(" [%1]").arg(fake->lines().size())};
+    answer(after);
     // The bar's own timers drive the polls, as they do in the host.
-    auto* poll = status->findChild<QTimer*>("statusTimer");
-    auto* progress = status->findChild<QTimer*>("progressTimer");
-    QCOMPARE(poll->interval(), 1000);
-    QCOMPARE(progress->interval(), 5000);
-    QMetaObject::invokeMethod(poll, "timeout");
-    QString seen = this->state();
-    if (progress->isActive())
-        QMetaObject::invokeMethod(progress, "timeout");
-    seen += '\n' + this->state();
-    QCOMPARE(seen, state);
-    QCOMPARE(fake->message_texts(), messages);
+    QCOMPARE(timer("statusTimer")->interval() + timer("progressTimer")->interval(), 6000);
+    QMetaObject::invokeMethod(timer("statusTimer"), "timeout");
+    seen << state();
+    if (timer("progressTimer")->isActive())
+        QMetaObject::invokeMethod(timer("progressTimer"), "timeout");
+    seen << state();
+    QCOMPARE(seen.join('\n'), states);
+    QCOMPARE(fake->message_texts().join('\n'), messages);
+    QVERIFY(timer("statusTimer")->isActive());
+    // Leaving stops the progress poll, the status poll only while there is something to warm.
+    status->about_to_exit();
+    QCOMPARE(timer("progressTimer")->isActive() + timer("statusTimer")->isActive(), states.endsWith("(off), bar hidden 0 "
+                                                                                                    "\"\", idle"));
 }
 
 void tst_InertialStatusBar::button_data()
 {
     QTest::addColumn<QByteArray>("warmup");
     QTest::addColumn<bool>("accepted");
-    QTest::addColumn<QString>("state");
-    QTest::addColumn<QStringList>("messages");
+    QTest::addColumn<QString>("state");   // and the messages
 
-    QTest::newRow("start") << QByteArray("no") << true << "Warmup stop shown 10  polling"
-                           << QStringList();
-    QTest::newRow("start refused") << QByteArray("no") << false << "Warmup start shown 0  idle"
-                                   << QStringList{"Could not start warmup of sensors"};
-    QTest::newRow("stop") << QByteArray("yes") << true << "Warmup start shown 0 Warmup is running 0%... idle"
-                          << QStringList();
-    QTest::newRow("stop refused") << QByteArray("yes") << false
-                                  << "Warmup stop shown 40 Warmup is running 40%... polling"
-                                  << QStringList{"Could not stop warmup of sensors"};
+    QTest::newRow("start: the progress read at once") << QByteArray("no") << true << "Warmup stop, bar shown 10 \"\", "
+                                                                                     "polling";
+    QTest::newRow("start refused") << QByteArray("no") << false << "Warmup start, bar shown 0 \"\", idle\nCould not start "
+                                                                   "warmup of sensors";
+    QTest::newRow("stop") << QByteArray("yes") << true << "Warmup start, bar shown 0 \"Warmup is running 0%...\", idle";
+    QTest::newRow("stop refused") << QByteArray("yes") << false << "Warmup stop, bar shown 40 \"Warmup is running 40%...\", "
+                                                                   "polling\nCould not stop warmup of sensors";
 }
 
 void tst_InertialStatusBar::button()
@@ -274,36 +221,33 @@ void tst_InertialStatusBar::button()
     QFETCH(QByteArray, warmup);
     QFETCH(bool, accepted);
     QFETCH(QString, state);
-    QFETCH(QStringList, messages);
 
-    script("yes", "2", warmup);
-    make();
+    answer({"yes", "2", warmup, "0.4"});
+    status = std::make_unique<InertialStatusBar>(fake, window, &versions);
     status->update_status();
     const QByteArray setting = warmup == "yes" ? "inertial warmup no" : "inertial warmup yes";
     accepted ? fake->accept(setting) : fake->fail(setting);
-    fake->reply(Progress, "0.1");
+    fake->reply("inertial warmup_status", "0.1");
     fake->clear_log();
     QTest::mouseClick(status->findChild<QToolButton*>("pushButton_startWarmup"), Qt::LeftButton);
     QCOMPARE(fake->lines().value(0), setting);
-    QCOMPARE(fake->lines().size(), accepted && warmup == "no" ? 4 : 1);   // a start reads the progress at once
     // The switch reaches every sensor by radio: it goes out under a long time-out.
     const FakeController::Call& call = fake->calls().value(1);
     QVERIFY(!call.wait_separately && call.timeout_ms == 10000 && call.timeout_flag);
-    QCOMPARE(this->state(), state);
-    QCOMPARE(fake->message_texts(), messages);
+    QCOMPARE(QStringList(this->state()) + fake->message_texts(), state.split('\n'));
     for (const FakeController::Message& message : fake->messages())
         QCOMPARE(message.target + message.source + QString::number(message.type), QString("standardNorvane1"));
 }
 
 void tst_InertialStatusBar::blockedChangesNothing()
 {
-    script("yes", "2", "yes");
-    make();
+    answer({"yes", "2", "yes", "0.4"});
+    status = std::make_unique<InertialStatusBar>(fake, window, &versions);
     status->update_status();
     const QString before = state();
     // Whatever the controller would say now, nothing is asked or shown.
     fake->set_blocked(true);
-    script("no", "0", "no", "0.9");
+    answer({"no", "0", "no", "0.9"});
     fake->clear_log();
     status->update_status();
     status->update_progress();
@@ -312,20 +256,7 @@ void tst_InertialStatusBar::blockedChangesNothing()
     QCOMPARE(state(), before);
     fake->set_blocked(false);
     status->update_status();
-    QCOMPARE(state(), QString("Warmup stop (off) hidden 40  polling"));
-}
-
-void tst_InertialStatusBar::aboutToExit()
-{
-    // The status poll stops only while inertial tracking is available.
-    for (const QByteArray count : {"2", "0"}) {
-        script("yes", "2", "yes");
-        make();
-        fake->reply(Count, count);
-        status->about_to_exit();
-        QVERIFY(!status->findChild<QTimer*>("progressTimer")->isActive());
-        QCOMPARE(status->findChild<QTimer*>("statusTimer")->isActive(), count == "0");
-    }
+    QCOMPARE(state(), QString("Warmup stop (off), bar hidden 40 \"\", polling"));
 }
 
 QTEST_MAIN(tst_InertialStatusBar)

@@ -1,5 +1,6 @@
 #include "FakeController.h"
 
+#include <QVariant>
 #include <QVector>
 
 #include <cstring>
@@ -7,29 +8,17 @@
 #include "host/LineFormatter.h"
 #include "module/MessageReceiver.h"
 
-// Every operation with a format turns it into its line first, as a host does.
-#define FAKE_LINE                                                 \
+// Every operation with a format turns it into its line first, as a host
+// does, and asks the script for the answer.
+#define FAKE_ANSWER(operation)                                    \
     va_list args;                                                 \
     va_start(args, format);                                       \
     const QByteArray line = LineFormatter::format(format, args); \
     va_end(args);                                                 \
-    QByteArray text
+    QByteArray text;                                              \
+    const int result = answer(operation, line, &text)
 
 namespace {
-
-bool convert(const QByteArray& word, int* value)
-{
-    bool ok = false;
-    *value = word.toInt(&ok);
-    return ok;
-}
-
-bool convert(const QByteArray& word, double* value)
-{
-    bool ok = false;
-    *value = word.toDouble(&ok);
-    return ok;
-}
 
 // The first `count` words of a reply as numbers; nothing is written unless
 // every one converts, as a host's readers do.
@@ -37,14 +26,15 @@ template <class T>
 int read_numbers(int result, const QByteArray& text, int count, T* values)
 {
     const QList<QByteArray> words = text.simplified().split(' ');
-    if (result != 0 || count <= 0 || words.size() < count)
-        return result != 0 ? result : 3;
-    QVector<T> parsed(count);
-    for (int i = 0; i < count; ++i)
-        if (!convert(words.at(i), &parsed[i]))
-            return 3;
-    std::copy(parsed.cbegin(), parsed.cend(), values);
-    return 0;
+    QVector<T> parsed;
+    for (int i = 0; i < count && result == 0; ++i) {
+        QVariant word(QString::fromLatin1(words.value(i)));
+        result = word.convert(qMetaTypeId<T>()) ? 0 : 3;
+        parsed << word.value<T>();
+    }
+    if (result == 0 && count > 0)
+        std::copy(parsed.cbegin(), parsed.cend(), values);
+    return result != 0 || count > 0 ? result : 3;
 }
 
 } // namespace
@@ -68,11 +58,6 @@ QList<QByteArray> FakeController::lines(Operation operation) const
         if (call.operation == operation)
             result << call.line;
     return result;
-}
-
-int FakeController::count(const QByteArray& line) const
-{
-    return int(std::count_if(call_log.cbegin(), call_log.cend(), [&](const Call& c) { return c.line == line; }));
 }
 
 QStringList FakeController::message_texts() const
@@ -99,8 +84,6 @@ int FakeController::deliver(const QString& name, int type, const char* sender, c
 int FakeController::answer(Operation operation, const QByteArray& line, QByteArray* text)
 {
     call_log << Call{operation, line, wait_separately, timeout_ms, timeout_flag};
-    if (operation == SetTimeout || operation == WaitForCompletion)
-        return 0;
     ++trips;
     auto it = script.find(line);
     if (it == script.end()) {
@@ -133,19 +116,15 @@ bool FakeController::apply_setting(const QByteArray& line)
     // The longest scripted query that the setting starts with is the path;
     // what follows the blank is the new value.
     QByteArray path;
-    for (auto it = script.constBegin(); it != script.constEnd(); ++it) {
-        const QByteArray& candidate = it.key();
-        if (candidate.size() > path.size() && line.size() > candidate.size() + 1
-            && line.startsWith(candidate) && line.at(candidate.size()) == ' ')
-            path = candidate;
-    }
-    if (path.isEmpty())
-        return false;
+    for (auto it = script.constBegin(); it != script.constEnd(); ++it)
+        if (it.key().size() > path.size() && line.startsWith(it.key() + ' ') && line.size() > it.key().size() + 1)
+            path = it.key();
     QByteArray value = line.mid(path.size() + 1);
     if (value.size() >= 2 && value.startsWith('"') && value.endsWith('"'))
         value = value.mid(1, value.size() - 2);
-    reply(path, value);
-    return true;
+    if (!path.isEmpty())
+        reply(path, value);
+    return !path.isEmpty();
 }
 
 void FakeController::set_timeout(bool separately, int milliseconds, bool flag)
@@ -153,17 +132,16 @@ void FakeController::set_timeout(bool separately, int milliseconds, bool flag)
     wait_separately = separately;
     timeout_ms = milliseconds;
     timeout_flag = flag;
-    answer(SetTimeout, QByteArray(), nullptr);
+    call_log << Call{SetTimeout, QByteArray(), wait_separately, timeout_ms, timeout_flag};
 }
 
 int FakeController::send_command(char* reply, const char* format, ...)
 {
-    FAKE_LINE;
+    FAKE_ANSWER(SendCommand);
+    const int scripted = script.value(line, Script{}).result;
     // A command after set_timeout(true, ...) goes out and is finished by
     // wait_for_completion; the setting holds for that one command.
     const bool asynchronous = wait_separately;
-    const int scripted = script.value(line, Script{}).result;
-    int result = answer(SendCommand, line, &text);
     wait_separately = false;
     if (asynchronous && result == 0 && scripted == NaturalResult) {
         pending = true;
@@ -171,16 +149,13 @@ int FakeController::send_command(char* reply, const char* format, ...)
         pending_answer = text;
         return 1;
     }
-    if (result == 0 || scripted != NaturalResult) {
-        const int copied = copy_reply(text, reply);
-        result = result == 0 ? copied : result;
-    }
-    return result;
+    const int copied = result == 0 || scripted != NaturalResult ? copy_reply(text, reply) : 0;
+    return result == 0 ? copied : result;
 }
 
 int FakeController::wait_for_completion(int* status)
 {
-    answer(WaitForCompletion, QByteArray(), nullptr);
+    call_log << Call{WaitForCompletion, QByteArray(), wait_separately, timeout_ms, timeout_flag};
     if (!pending)
         return 1;
     pending = false;
@@ -193,27 +168,25 @@ int FakeController::wait_for_completion(int* status)
 
 int FakeController::get_string(char* reply, const char* format, ...)
 {
-    FAKE_LINE;
-    const int result = answer(GetString, line, &text);
+    FAKE_ANSWER(GetString);
     return result != 0 ? result : copy_reply(text, reply);
 }
 
 int FakeController::get_int(int* value, const char* format, ...)
 {
-    FAKE_LINE;
-    return read_numbers(answer(GetInt, line, &text), text, 1, value);
+    FAKE_ANSWER(GetInt);
+    return read_numbers(result, text, 1, value);
 }
 
 int FakeController::get_double(double* value, const char* format, ...)
 {
-    FAKE_LINE;
-    return read_numbers(answer(GetDouble, line, &text), text, 1, value);
+    FAKE_ANSWER(GetDouble);
+    return read_numbers(result, text, 1, value);
 }
 
 int FakeController::get_bool(bool* value, const char* format, ...)
 {
-    FAKE_LINE;
-    const int result = answer(GetBool, line, &text);
+    FAKE_ANSWER(GetBool);
     text = text.trimmed();
     if (result != 0 || (text != "yes" && text != "no"))
         return result != 0 ? result : 3;
@@ -223,22 +196,20 @@ int FakeController::get_bool(bool* value, const char* format, ...)
 
 int FakeController::get_doubles(double* values, int count, const char* format, ...)
 {
-    FAKE_LINE;
-    return read_numbers(answer(GetDoubles, line, &text), text, count, values);
+    FAKE_ANSWER(GetDoubles);
+    return read_numbers(result, text, count, values);
 }
 
 int FakeController::get_ints(int* values, int count, const char* format, ...)
 {
-    FAKE_LINE;
-    return read_numbers(answer(GetInts, line, &text), text, count, values);
+    FAKE_ANSWER(GetInts);
+    return read_numbers(result, text, count, values);
 }
 
 int FakeController::set_value(const char* format, ...)
 {
-    FAKE_LINE;
-    const bool scripted = script.contains(line);
-    const int result = answer(SetValue, line, &text);
-    if (result == 0 && stateful && scripted)
+    FAKE_ANSWER(SetValue);
+    if (result == 0 && stateful && script.contains(line))
         apply_setting(line);
     return result;
 }
@@ -255,7 +226,6 @@ void FakeController::register_receiver(const char* name, MessageReceiver* receiv
 
 void FakeController::unregister_receiver(const char* name, MessageReceiver* receiver)
 {
-    const QString key = QString::fromLatin1(name);
-    if (receivers.value(key) == receiver)
-        receivers.remove(key);
+    if (receivers.value(QString::fromLatin1(name)) == receiver)
+        receivers.remove(QString::fromLatin1(name));
 }

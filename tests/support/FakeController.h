@@ -11,16 +11,12 @@
 
 // A scripted controller for dialog tests. It formats every call's line as a
 // host does, records each call in order with the time-out settings in force,
-// and answers from a script:
-//
-//   fake.reply("inertial number_of_sensors", "2");              // every time
-//   fake.replies("inertial warmup_status", {"0.1", "0.5", "1"}); // in turn, the last repeats
-//   fake.fail("inertial sensor d02");                           // non-zero result
-//   fake.accept("inertial warmup yes");                         // a setting that succeeds
-//
-// A line that the script does not know fails and is listed in unexpected().
-// In stateful mode a setting "P V" of a scripted query P succeeds and makes
-// later queries of P answer V, as the controller would.
+// and answers from a script: reply(line, answer) every time, replies(line,
+// answers) in turn with the last repeating, fail(line) with a non-zero
+// result, accept(setting) for a setting that succeeds. A line that the script
+// does not know fails and is listed in unexpected(). In stateful mode a
+// setting "P V" of a scripted query P succeeds and makes later queries of P
+// answer V, as the controller would.
 class FakeController : public IOManager
 {
 public:
@@ -50,7 +46,6 @@ public:
     FakeController();
     ~FakeController() override;
 
-    // --- script -----------------------------------------------------------
     void reply(const QByteArray& line, const QByteArray& answer, int result = NaturalResult)
     { script.insert(line, Script{{answer}, 0, result}); }
     void replies(const QByteArray& line, const QList<QByteArray>& answers)
@@ -63,21 +58,18 @@ public:
     // Result of wait_for_completion for the pending asynchronous command.
     void set_completion_result(int result) { completion_result = result; }
 
-    // --- what happened ----------------------------------------------------
     const QList<Call>& calls() const { return call_log; }
     QList<QByteArray> lines() const;                       // every line, in order
     QList<QByteArray> lines(Operation operation) const;    // lines of one operation
-    int count(const QByteArray& line) const;               // how often a line went out
+    int count(const QByteArray& line) const { return lines().count(line); }   // how often a line went out
     QList<QByteArray> unexpected() const { return unexpected_lines; }
     const QList<Message>& messages() const { return message_log; }
     QStringList message_texts() const;
     void clear_log();
 
-    // --- receivers --------------------------------------------------------
     MessageReceiver* receiver(const QString& name) const { return receivers.value(name); }
     int deliver(const QString& name, int type, const char* sender, const char* text);
 
-    // --- IOManager --------------------------------------------------------
     bool is_blocked() override { return blocked; }
     void set_timeout(bool wait_separately, int milliseconds, bool flag) override;
     int send_command(char* reply, const char* format, ...) override;
@@ -102,7 +94,7 @@ private:
         int result = NaturalResult;
     };
 
-    // Records the line; its scripted result, and the answer in *text.
+    // Records the call; its scripted result, and the answer in *text.
     int answer(Operation operation, const QByteArray& line, QByteArray* text);
     int copy_reply(const QByteArray& text, char* reply) const;
     bool apply_setting(const QByteArray& line);
