@@ -211,6 +211,7 @@ void tst_AddInertialSensorDlg::usbScanAsksInOrder()
         QVERIFY(QTest::qWaitForWindowExposed(dialog));
         fake->clear_log();
         w<QPushButton>("pushButton_scan")->click();
+        QCoreApplication::processEvents();   // the first channel waits for the timer's tick
         during = state() + QString::number(w("pushButton_cancel")->isEnabled());
         QMetaObject::invokeMethod(dialog, "scan_channels");
     });
@@ -364,13 +365,16 @@ void tst_AddInertialSensorDlg::haltedScanAndReopening()
     // The next opening starts afresh, and F3 scans as the button does.
     QString found;
     open([&] {
-        found = state() + ' ' + w<QComboBox>("comboBox_scanMode")->currentText();
+        found = state() + ' ' + w<QComboBox>("comboBox_scanMode")->currentText() + ' '
+                + QString::number(w<QComboBox>("comboBox_scanMode")->count());
+        QTest::keyClick(dialog, Qt::Key_A);   // only F3 scans
+        found += QString::number(w("pushButton_scan")->isEnabled());
         QTest::keyClick(dialog, Qt::Key_F3);
         QMetaObject::invokeMethod(dialog, "scan_channels");
         found += ' ' + QString::number(rows().size());
         QVERIFY(dialog->close());
     });
-    QCOMPARE(found, QString(", -1%, 111 USB 3"));   // a reset bar shows no value
+    QCOMPARE(found, QString(", -1%, 111 USB 41 3"));   // a reset bar shows no value
     // Cancel ends a scan halted by Escape.
     open([&] {
         auto* modes = w<QComboBox>("comboBox_scanMode");
@@ -409,8 +413,11 @@ void tst_AddInertialSensorDlg::acceptAllAndClicks()
         seen << QString::number(apply->isEnabled());
         table->item(2, 4)->setCheckState(Qt::Checked);   // by keyboard: no click
         seen << QString::number(apply->isEnabled());
+        w<QPushButton>("pushButton_scan")->click();   // nothing to apply while scanning again
+        seen << QString::number(apply->isEnabled());
+        QMetaObject::invokeMethod(dialog, "scan_channels");
         QCOMPARE(seen.join(' '), QString("0 S0007 IMU9 x,S0001 IMU9 -,C0008 IMU6 x1 S0007 IMU9 o,S0001 IMU9 -,"
-                                         "C0008 IMU6 x10 0 1"));
+                                         "C0008 IMU6 x10 0 1 0"));
     });
     QCOMPARE(box, QString("Warning: Please select a channel to scan"));
     QCOMPARE(fake->message_texts(), QStringList());

@@ -96,6 +96,11 @@ void tst_InertialTrackingModule::elements()
 
 void tst_InertialTrackingModule::lifecycle()
 {
+    {
+        InertialTrackingModule unused;   // closed before it handed anything out
+        unused.about_to_exit_module();
+        unused.exit_module();
+    }
     fake->reply("inertial warmup", "yes");
     fake->reply("inertial warmup_status", "0.5");
     InertialTrackingModule module;
@@ -120,7 +125,7 @@ void tst_InertialTrackingModule::lifecycle()
         QVERIFY(widgets.at(i).isNull() && !elements.at(i)->widget);
     QVERIFY(parent->findChildren<QWidget*>().isEmpty());
     module.exit_module();   // nothing left to delete
-    QCOMPARE(module.get_gui_elements().size(), 4);   // built anew after an exit
+    QVERIFY(module.get_gui_elements().value(3)->widget);   // built anew after an exit
     module.exit_module();
 }
 

@@ -66,7 +66,6 @@ private slots:
     void cleanup();
     void opening_data();
     void opening() { run(); }
-    void openingAsksInOrder();
     void typicalTable();
     void failures_data();
     void failures() { run(); }
@@ -333,37 +332,14 @@ void tst_InertialSettingsDlg::opening_data()
         "progress");
     row("warm-up running: no presence poll", {"inertial warmup=yes"}, opened, "warmup | buttonTimer sensorDataTimer | "
         "Warmup stop\n" + Typical + "\n\nsensor 172 round trips, progress");
+    row("1.12: the first with inertial sensors", {"version=1.12"}, opened, "addSensor mode frequency tableWidget "
+        "scanAvailableChannels warmup | buttonTimer notPresentTimer | Warmup start\n" + Typical + "\n\nsensor 143 round "
+        "trips, progress\n! Error: Unable to get radio channel of sensor");   // C4 on cable, which 1.12 cannot tell
+    row("no sensors: nothing to warm up", {"inertial number_of_sensors=0"}, opened, "addSensor mode frequency tableWidget "
+        "scanAvailableChannels | buttonTimer notPresentTimer | Warmup start\nT1001 T1002\n\nsensor 52 round trips, "
+        "progress");
     row("ready", {}, opened, "addSensor mode frequency tableWidget scanAvailableChannels warmup | buttonTimer "
         "notPresentTimer | Warmup start\n" + Typical + "\n\nsensor 147 round trips, progress");
-}
-
-void tst_InertialSettingsDlg::openingAsksInOrder()
-{
-    // One transceiver that can use channel 12 alone, one sensor on it.
-    system.transceivers = {system.transceivers.first()};
-    system.transceivers[0].channels = {12};
-    system.sensors = {system.sensors.first()};
-    open();
-    const QByteArray s = "inertial sensor_wakeup_mode_available " + S1;
-    QCOMPARE(fake->lines(), (QList<QByteArray>{"config is_changeable", "inertial available",
-        "inertial number_of_wakeup_modes", "inertial wakeup_mode t01", "inertial wakeup_mode_desc 'wm_usb'",
-        "inertial wakeup_mode t02", "inertial wakeup_mode_desc 'wm_tap'", "inertial wakeup_mode t03",
-        "inertial wakeup_mode_desc 'wm_radio'", "inertial number_of_transceivers", "inertial transceiver d01",
-        "inertial transceiver_version " + T1, "inertial transceiver_vendor_desc NRV",
-        "inertial transceiver_model_desc NRV Dongle", "inertial transceiver_present " + T1,
-        "inertial number_of_transceiver_available_radio_channels " + T1,
-        "inertial transceiver_available_radio_channel " + T1 + " t01",
-        "inertial transceiver_radio_channel_activity " + T1 + " 12", "inertial transceiver_radio_channel " + T1,
-        "inertial transceiver_suggested_radio_channel " + T1, "inertial number_of_sensors", "inertial sensor d01",
-        "inertial body_of_sensor " + S1, "inertial transceiver_of_sensor " + S1, "inertial sensor_vendor_desc NRV",
-        "inertial sensor_model_desc NRV IMU9", "body number_of_bodies standard", "body desc standard b01",
-        "inertial sensor_present " + S1, "inertial sensor_temperature " + S1, "inertial sensor_battery " + S1,
-        "inertial sensor_output_frequency " + S1, "inertial sensor_handeye " + S1, "inertial sensor_version " + S1,
-        s + " 'wm_radio'", s + " 'wm_tap'", s + " 'wm_usb'", "inertial sensor_wakeup_mode " + S1,
-        "inertial sensor_radio_channel " + S1, "inertial limit frequency", "inertial frequency",
-        "inertial sensor_wakeup_mode " + S1, s + " 'wm_radio'", s + " 'wm_tap'", s + " 'wm_usb'",
-        "inertial number_of_transceivers", "inertial limit frequency", "inertial warmup"}));
-    QCOMPARE(fake->lines(FakeController::SetTimeout), QList<QByteArray>());   // no slow answer awaited
 }
 
 void tst_InertialSettingsDlg::typicalTable()
@@ -397,8 +373,8 @@ void tst_InertialSettingsDlg::failures_data()
     // Failures that end the rebuild: the table keeps what was filled.
     row("transceiver count", {"inertial number_of_transceivers"}, shown(-1, 0), e + "number of dongles");
     row("transceiver identity", {"inertial transceiver d02"}, shown(-1, 0), e + "informations of dongle 2");
-    row("transceiver channel", {"inertial transceiver_radio_channel " + T2}, shown(0, 5), "T1001 T1002\n[12]" + e
-        + "radio channel of dongle 2");
+    row("transceiver channel", {"inertial transceiver_radio_channel " + T1}, shown(0, 5), "T1001\n[]" + e
+        + "radio channel of dongle 1");
     row("sensor identity", {"inertial sensor d03"}, shown(-1, 0), "T1001 S0002 S0001 T1002" + c + "informations of sensor 3");
     row("body of a sensor", {"inertial body_of_sensor " + S2}, shown(-1, 0), "T1001 S0001 T1002" + c + "body of sensor 2");
     // Failures that leave a fallback and go on.
@@ -446,6 +422,8 @@ void tst_InertialSettingsDlg::failures_data()
     row("temperature not finite", {"inertial sensor_temperature " + S1 + "=inf 36.0"}, shown(2, 8), Typical + "\n");
     row("sensor output frequency", {"inertial sensor_output_frequency " + S2}, shown(1, 9), Typical + "\n" + e
         + "frequency of sensor 2");
+    row("output frequency of 10 Hz: nothing shown", {"inertial sensor_output_frequency " + S2 + "=10.0"}, shown(1, 9),
+        Typical + "\n");
     row("hand-eye state", {"inertial sensor_handeye " + S2}, shown(1, 10), Typical + "\n~{red}" + e + "calibration "
         "status of sensor");
     row("mode count", {"inertial number_of_wakeup_modes"}, shown(1, 6), Typical + "\n[]" + e + "number of wakeup "
@@ -469,23 +447,21 @@ void tst_InertialSettingsDlg::secondOpeningStartsAfresh_data()
     QTest::addColumn<QList<QByteArray>>("first");    // the controller at the first opening
     QTest::addColumn<QList<QByteArray>>("second");   // what changed for the next
 
+    auto row = [](const char* name, const QList<QByteArray>& first, const QList<QByteArray>& second) {
+        QTest::newRow(name) << first << second;
+    };
     const QByteArray warm = "inertial warmup=yes";
-    QTest::newRow("lock released") << QList<QByteArray>{"config is_changeable=no"} << QList<QByteArray>{"config "
-                                                                                                     "is_changeable=yes"};
-    QTest::newRow("warm-up ended") << QList<QByteArray>{warm} << QList<QByteArray>{"inertial warmup=no"};
-    QTest::newRow("warm-up, then locked") << QList<QByteArray>{warm} << QList<QByteArray>{"config is_changeable=no"};
-    QTest::newRow("warm-up, then no transceiver") << QList<QByteArray>{warm}
-                                                  << QList<QByteArray>{"inertial number_of_transceivers=0"};
-    QTest::newRow("tracking back") << QList<QByteArray>{"inertial available=no"} << QList<QByteArray>{"inertial "
-                                                                                                   "available=yes"};
-    QTest::newRow("scanned since") << QList<QByteArray>{"inertial transceiver_suggested_radio_channel " + T1 + "=0"}
-                                   << QList<QByteArray>{"inertial transceiver_suggested_radio_channel " + T1 + "=14"};
-    QTest::newRow("a hint, then an old controller") << QList<QByteArray>{"inertial transceiver_suggested_radio_channel "
-                                                    + T1 + "=0"} << QList<QByteArray>{"version=1.11"};
-    QTest::newRow("locked, then tracking unavailable") << QList<QByteArray>{"config is_changeable=no"}
-                                                       << QList<QByteArray>{"config is_changeable=yes", "inertial available=no"};
-    QTest::newRow("other channels usable") << QList<QByteArray>{}
-        << QList<QByteArray>{"inertial transceiver_available_radio_channel " + T1 + " t05=30"};
+    const QByteArray hint = "inertial transceiver_suggested_radio_channel " + T1 + "=0";
+    row("lock released", {"config is_changeable=no"}, {"config is_changeable=yes"});
+    row("warm-up ended", {warm}, {"inertial warmup=no"});
+    row("warm-up, then locked", {warm}, {"config is_changeable=no"});
+    row("warm-up, then no transceiver", {warm}, {"inertial number_of_transceivers=0"});
+    row("tracking back", {"inertial available=no"}, {"inertial available=yes"});
+    row("locked, then tracking unavailable", {"config is_changeable=no"}, {"config is_changeable=yes",
+                                                                          "inertial available=no"});
+    row("scanned since", {hint}, {"inertial transceiver_suggested_radio_channel " + T1 + "=14"});
+    row("a hint, then an old controller", {hint}, {"version=1.11"});
+    row("other channels usable", {}, {"inertial transceiver_available_radio_channel " + T1 + " t05=30"});
 }
 
 void tst_InertialSettingsDlg::secondOpeningStartsAfresh()
@@ -499,12 +475,14 @@ void tst_InertialSettingsDlg::secondOpeningStartsAfresh()
         auto* bar = w<QProgressBar>("progressBar");
         return QStringList{page(), w<QLabel>("label_error")->text(), icon_name(dialog->windowIcon()),
                            w("label_error3")->isVisible() ? w<QLabel>("label_error3")->text() : "",
-                           w<QComboBox>("comboBox_mode")->currentText(), QString("%1 %2 %3 %4").arg(bar->isVisible())
-                               .arg(bar->isEnabled()).arg(bar->value()).arg(w<QToolBox>("toolBox")->currentIndex()),
+                           w<QComboBox>("comboBox_mode")->currentText(), QString("%1 %2 %3 %4 %5").arg(bar->isVisible())
+                               .arg(bar->isEnabled()).arg(bar->value()).arg(w<QToolBox>("toolBox")->currentIndex())
+                               .arg(bar->format()),
                            rows().join('\n')};
     };
-    script(first);
+    script(first + QList<QByteArray>{"norvane inertial scan_transceiver_radio_channels=norvane ok"});
     open([this] {
+        w<QPushButton>("pushButton_scanAvailableChannels")->click();
         emit table()->cellClicked(2, Name);
         QTest::keyClick(dialog, Qt::Key_3);
     });
@@ -521,7 +499,6 @@ void tst_InertialSettingsDlg::reopenMessage_data()
 {
     QTest::addColumn<QByteArray>("text");
     QTest::addColumn<int>("runs");
-
     QTest::newRow("reopen") << QByteArray("reopen") << 1;
     QTest::newRow("capital R") << QByteArray("Reopen") << 0;
     QTest::newRow("a word behind") << QByteArray("reopen now") << 0;
@@ -534,9 +511,8 @@ void tst_InertialSettingsDlg::reopenMessage()
 
     int ran = 0;
     ModalDialogHelper::when_active("InertialSettingsDlg", [&](QWidget* w) {
-        ++ran;
         // Asked again while it runs, by the menu or the message: no second run.
-        fake->deliver("InertialModule", 0, "x", "reopen");
+        ran += 1 + fake->deliver("InertialModule", 0, "x", "reopen");
         QCoreApplication::processEvents();
         dialog->update_and_exec();
         ModalDialogHelper::close(w);
@@ -547,7 +523,7 @@ void tst_InertialSettingsDlg::reopenMessage()
     ModalDialogHelper::clear_pending();
     // The dialog runs again as it stands, without asking the controller.
     QCOMPARE(fake->lines(), QList<QByteArray>());
-    dialog->about_to_exit();
+    delete std::exchange(dialog, nullptr);   // gone with its receiver
     QCOMPARE(fake->receiver("InertialModule"), nullptr);
 }
 
@@ -557,16 +533,17 @@ void tst_InertialSettingsDlg::refresh_data()
 {
     columns();
     // Between two refreshes S1 warms up and changes, S2 goes away, S5 wakes.
-    auto tick = [this](const char* slot) {
-        return [this, slot] {
+    // The timers' own ticks drive the refreshes, as while the dialog is open.
+    auto tick = [this](const char* timer) {
+        return [this, timer] {
             const QString changed = changed_rows([&] {
                 script({"inertial sensor_battery " + S1 + "=0.15", "inertial sensor_temperature " + S1 + "=35.0 36.0",
                         "inertial sensor_version " + S1 + "='2.5.0'", "inertial sensor_wakeup_mode " + S1 + "='wm_tap'",
                         "inertial sensor_handeye " + S1 + "=", "inertial sensor_present " + S2 + "=no",
                         "inertial sensor_present NRV IMU9 'S0005'=yes"});
-                QMetaObject::invokeMethod(dialog, slot);
+                QMetaObject::invokeMethod(w<QTimer>(timer), "timeout");
             });
-            return changed + '\n' + page().section(" | ", 1, 1);
+            return changed + QString("\n%1 ms, then ").arg(w<QTimer>(timer)->interval()) + page().section(" | ", 1, 1);
         };
     };
     const QString s1 = "{inertial_en}S0001|Norvane|IMU9 sensor|Body 01*|2.5.0|[12]|[Wake on tap]|15%@15|35.0\u00b0C@97|"
@@ -574,11 +551,13 @@ void tst_InertialSettingsDlg::refresh_data()
     const QString s2 = "~{inertial_dis}S0002|~Norvane|~IMU9 sensor|~|~2.4.1|[12]|~||not present|%1|{yellow}|{118}\n";
     const QString s5 = "{inertial_en}S0005|Norvane|IMU9 sensor|~|2.4.1|[20]|[Wake on tap]|80%@80|18.0\u00b0C@50|%1|"
                        "{yellow}|{118}\n";
-    row("button refresh: every row", {}, tick("update_buttons"), s2.arg("") + s1.arg("~{red}") + s5.arg("100 Hz")
-        + "buttonTimer notPresentTimer");
-    row("presence poll: the absent only, once", {}, tick("update_sensors_not_present"), s5.arg("") + "buttonTimer");
-    row("warm-up tick: the live columns", {"inertial warmup=yes"}, tick("set_temperature_and_battery_of_all_sensor"),
-        s2.arg("100 Hz") + s1.arg("{green}") + s5.arg("") + "buttonTimer sensorDataTimer");
+    row("button refresh: every row", {}, tick("buttonTimer"), s2.arg("") + s1.arg("~{red}") + s5.arg("100 Hz")
+        + "2000 ms, then buttonTimer notPresentTimer");
+    row("the first refresh, a quarter second in", {}, tick("firstRefreshTimer"), s2.arg("") + s1.arg("~{red}")
+        + s5.arg("100 Hz") + "250 ms, then buttonTimer notPresentTimer");
+    row("presence poll: the absent only, once", {}, tick("notPresentTimer"), s5.arg("") + "2000 ms, then buttonTimer");
+    row("warm-up tick: the live columns", {"inertial warmup=yes"}, tick("sensorDataTimer"),
+        s2.arg("100 Hz") + s1.arg("{green}") + s5.arg("") + "2000 ms, then buttonTimer sensorDataTimer");
     row("tracking lost: the page given up", {}, [this] {
         script({"inertial available=no"});
         QMetaObject::invokeMethod(dialog, "update_buttons");
@@ -610,9 +589,10 @@ void tst_InertialSettingsDlg::refresh_data()
         // Nothing was added, yet the table is stale: returning to the page rebuilds it.
         mark = fake->calls().size();
         QTest::keyClick(dialog, Qt::Key_F4);
+        during += QString(" %1").arg(asked().size());
         QTest::keyClick(dialog, Qt::Key_1);
         return during + ' ' + QString::number(asked().count("inertial number_of_transceivers"));
-    }, "|buttonTimer notPresentTimer 1");
+    }, "|buttonTimer notPresentTimer 0 1");
     auto keys = [this](Qt::Key first, Qt::Key second) {
         return [=] {
             QTest::keyClick(dialog, first);
@@ -691,6 +671,19 @@ void tst_InertialSettingsDlg::deletion_data()
     row("command refused: table kept", {"norvane inertial delete_sensor " + S1 + "=no"}, remove(2, QMessageBox::Yes),
         "Warning: Delete sensor S1?\n" + Typical + "\n> body inertial_sensor standard b01 none\n" + six + delete1
         + "\n! Could not delete sensor S1");
+    auto detach = [this](const char* sensor, const QList<QByteArray>& failing) {
+        return [=] {
+            script(failing);
+            dialog->deleteAssignmentIfSensorIsAlreadyAssigned(sensor);
+            return QString();
+        };
+    };
+    row("detaching an assigned sensor", {}, detach("NRV IMU9 'S0001'", {}), "\n> body inertial_sensor standard b01 none");
+    row("detaching an unassigned one: nothing", {}, detach("NRV IMU9 'S0002'", {}), "");
+    row("detaching: body unknown", {}, detach("NRV IMU9 'S0001'", {"inertial body_of_sensor " + S1}), "\n! Error: Unable "
+        "to get assignment of sensor");
+    row("detaching refused", {}, detach("NRV IMU9 'S0001'", {"body inertial_sensor standard b01 none"}), "\n> body "
+        "inertial_sensor standard b01 none\n! Error: Unable to delete assignment of sensor");
     row("transceiver row: no question", ok, remove(0, -1), "\n" + Typical);
     row("cable row: no question", ok, remove(6, -1), "\n" + Typical);
 }
@@ -742,6 +735,21 @@ void tst_InertialSettingsDlg::wakeupModes_data()
         "Wake by radio, page (mixed)\n! Error: Unable to reach sensor");
     row("time-out refused: the mode stays", {}, pick(2, "Wake on tap", {sleep}), "Wake on tap, page (mixed)\n" + sent
         + slept + "\n! Error: Unable to set sleep timeout of sensor");
+    row("a wheel turned over it: only when it has the focus", {}, [this] {
+        auto* combo = qobject_cast<QComboBox*>(table()->cellWidget(2, Mode));
+        QStringList shown;
+        for (bool focus : {false, true}) {
+            if (focus) {
+                QApplication::setActiveWindow(dialog);
+                combo->setFocus();
+            }
+            QWheelEvent wheel(QPointF(5, 5), QPointF(combo->mapToGlobal(QPoint(5, 5))), QPoint(), QPoint(0, -120),
+                              Qt::NoButton, Qt::NoModifier, Qt::NoScrollPhase, false);
+            QCoreApplication::sendEvent(combo, &wheel);
+            shown << combo->currentText();
+        }
+        return shown.join(", ");
+    }, "Wake by radio, Wake on tap\n" + sent + slept);
     // The page's choice: the modes some sensor offers, the current one first.
     auto all = [this](const char* mode) {
         return [=] {
@@ -846,6 +854,18 @@ void tst_InertialSettingsDlg::channels_data()
     }, "asked\n> inertial sensor_radio_channel S1 30 @10000\n> inertial sensor_radio_channel S2 30 @10000\n"
        "> inertial transceiver_radio_channel T1 30 @10000\n! Error: Unable to set radio channel of sensor S1\n"
        "! Error: Unable to set radio channel of dongle T1");
+    row("a transceiver's sensors, present or not", {}, [this] {
+        script({"inertial sensor_present " + S3});
+        return (dialog->get_onlyPresent_sensorList_of_dongle(QString(T2)) + QStringList{"|"}
+                + dialog->get_onlyNotPresent_sensorList_of_dongle(QString(T2))).join(' ');
+    }, "| S5\n! Error: Unable to get present status of sensor 1\n! Error: Unable to get present status of sensor 1");
+    row("one transceiver's activity measured", {"inertial transceiver_radio_channel_activity " + T1 + " 16=1.0"}, [this] {
+        dialog->scan_transciever_radio_channel_activity(QString(T1));
+        QStringList busy;
+        for (int channel : dialog->busy_channels(QString(T1)))
+            busy << QString::number(channel);
+        return busy.join(' ');
+    }, "16");
     auto sensor = [this](const char* channel) {
         return [=] {
             auto* combo = qobject_cast<QComboBox*>(table()->cellWidget(1, Channel));

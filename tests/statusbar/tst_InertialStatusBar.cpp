@@ -89,6 +89,7 @@ void tst_InertialStatusBar::bars_data()
 
     // A battery takes a fraction and is green from 20; a temperature is taken as it stands, green from 95.
     QTest::newRow("battery 0.195 is 19, red") << true << 0.195 << "19 black/red background-color: #FF0000;";
+    QTest::newRow("battery 0 is red") << true << 0.0 << "0 black/red background-color: #FF0000;";
     QTest::newRow("battery 0.2 is 20, green") << true << 0.2 << "20 black/black background-color: #4CFF00;";
     QTest::newRow("battery 0.999 is 99") << true << 0.999 << "99 black/black background-color: #4CFF00;";
     QTest::newRow("battery 1.5 is full, rounded") << true << 1.5 << "100 black/black background-color: #4CFF00; "
@@ -146,6 +147,7 @@ void tst_InertialStatusBar::polls_data()
         QTest::newRow(name) << minor << before << after << states << messages;
     };
     row("1.11: nothing asked", 11, idle, idle, off + " [0]\n" + off + '\n' + off);
+    row("1.12: the first with inertial sensors", 12, idle, idle, ready + " [4]\n" + ready + '\n' + ready);
     row("idle stays idle", 21, idle, idle, ready + " [4]\n" + ready + '\n' + ready);
     row("said no", 21, {"no", "2", "no", "0"}, idle, off + " [1]\n" + ready + '\n' + ready);
     row("compared whole", 21, {"yes please", "2", "no", "0"}, {"yes please", "2", "no", "0"}, off + " [1]\n" + off + '\n'

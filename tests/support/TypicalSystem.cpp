@@ -54,7 +54,7 @@ void TypicalSystem::install(FakeController& fake) const
         for (int k = 0; k < t.channels.size(); ++k) {
             const QByteArray channel = QByteArray::number(t.channels.at(k));
             fake.reply("inertial transceiver_available_radio_channel " + id + index('t', k + 1), channel);
-            fake.reply("inertial transceiver_radio_channel_activity " + id + ' ' + channel, t.activity);
+            fake.reply("inertial transceiver_radio_channel_activity " + id + ' ' + channel, "0.1");
         }
     }
 
@@ -69,8 +69,8 @@ void TypicalSystem::install(FakeController& fake) const
         fake.reply("inertial sensor_vendor_desc " + id.split(' ').value(0), "\"Norvane\"");
         fake.reply("inertial sensor_model_desc " + model, "\"" + model.mid(4) + " sensor\"");
         fake.reply("inertial sensor_present " + id, s.present);
-        fake.reply("inertial sensor_temperature " + id, s.temperature);
-        fake.reply("inertial sensor_battery " + id, s.battery);
+        fake.reply("inertial sensor_temperature " + id, "18.0 36.0");
+        fake.reply("inertial sensor_battery " + id, "0.8");
         fake.reply("inertial sensor_output_frequency " + id, "100.0");
         fake.reply("inertial sensor_handeye " + id, s.handeye);
         fake.reply("inertial sensor_version " + id, "'2.4.1'");

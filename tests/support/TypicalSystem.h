@@ -19,26 +19,23 @@ class TypicalSystem
 public:
     struct Transceiver
     {
-        QByteArray identity;                  // "NRV Dongle 'T1001'"
+        QByteArray identity;
         QByteArray present = "yes";
         QByteArray channel = "12";
-        QList<int> channels = {10, 12, 14, 16, 20};   // the ones it can use
-        QByteArray suggested = "14";          // "0" before any scan
-        QByteArray activity = "0.1";          // of every channel
+        QList<int> channels = {10, 12, 14, 16, 20};   // the ones it can use; each with activity 0.1
+        QByteArray suggested = "14";                  // "0" before any scan
     };
 
     struct Sensor
     {
-        QByteArray identity;                  // "NRV IMU9 'S0001'"
-        QByteArray transceiver = "none";      // its transceiver's identity; "none" on cable
-        QByteArray body = "none";             // "standard b01"
+        QByteArray identity;
+        QByteArray transceiver = "none";   // its transceiver's identity; "none" on cable
+        QByteArray body = "none";
         QByteArray present = "yes";
         QByteArray mode = "'wm_radio'";
         QList<QByteArray> modes = {"'wm_tap'", "'wm_radio'"};
-        QByteArray channel = "12";            // "usb" on cable
-        QByteArray temperature = "18.0 36.0";  // now, and when warm
-        QByteArray battery = "0.8";
-        QByteArray handeye = "none";
+        QByteArray channel = "12";         // "usb" on cable
+        QByteArray handeye = "none";       // battery 0.8, temperature 18 of 36 degrees
     };
 
     TypicalSystem();
