@@ -25,7 +25,6 @@ class tst_AddSensorEndToEnd : public QObject
 private slots:
     void cleanup();
     void foundSensorsGoOnBodies();
-    void usbScanFindsTheCableSensor();
 
 private:
     // Scans in `mode`, one channel a tick, runs `then`, leaves.
@@ -101,14 +100,6 @@ void tst_AddSensorEndToEnd::foundSensorsGoOnBodies()
     QCOMPARE(bodies.mid(5, 2), (QStringList{"NRV IMU3 '10240'", "NRV IMU3 '10241'"}));
     QCOMPARE(model.body_count, 7);
     QCOMPARE(model.sensors.size(), 7);
-}
-
-void tst_AddSensorEndToEnd::usbScanFindsTheCableSensor()
-{
-    QStringList rows;
-    scan("USB", [&](QDialog* dialog) { rows = found(dialog); });
-    QCOMPARE(rows.filter("+"), QStringList{"10243 USB+"});
-    QVERIFY(rows.contains("10235 USB"));   // the paired cable sensor
 }
 
 QTEST_MAIN(tst_AddSensorEndToEnd)

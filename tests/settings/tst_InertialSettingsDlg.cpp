@@ -87,8 +87,6 @@ private slots:
     void channels() { run(); }
     void channelScan_data();
     void channelScan() { run(); }
-    void reopenMessage_data();
-    void reopenMessage();
 
 private:
     static void columns();
@@ -385,12 +383,8 @@ void tst_InertialSettingsDlg::failures_data()
     row("sensor count", {"inertial number_of_sensors"}, shown(-1, 0), "T1001 T1002" + c + "number of sensors");
     row("transceiver firmware", {"inertial transceiver_version " + T1}, shown(0, 4), Typical + "\nerror" + e
         + "firmware version of dongle 1");
-    row("transceiver vendor", {"inertial transceiver_vendor_desc NRV"}, shown(3, 1), Typical + "\nerror" + e
-        + "vendor description of dongle 1" + e + "vendor description of dongle 2");
     row("transceiver model: found by its key", {"inertial transceiver_model_desc NRV Dongle"}, shown(0, 2), Typical
         + "\nerror" + e + "model description of dongle 1" + e + "model description of dongle 2");
-    row("transceiver presence", {"inertial transceiver_present " + T1}, shown(0, 5), Typical + "\n[12]" + e
-        + "present status of dongle 1");
     row("transceiver absent: greyed", {"inertial transceiver_present " + T2 + "=no"}, shown(3, 5), Typical + "\n~");
     row("channel count", {"inertial number_of_transceiver_available_radio_channels " + T1}, shown(0, 5), Typical
         + "\n[12]" + e + "number of available channels of dongle 1" + e + "number of available dongle channels");
@@ -405,8 +399,6 @@ void tst_InertialSettingsDlg::failures_data()
     row("sensor vendor", {"inertial sensor_vendor_desc NRV"}, shown(1, 1), Typical + "\nerror" + e + "vendor "
         "description of sensor 1" + e + "vendor description of sensor 2" + e + "vendor description of sensor 3" + e
         + "vendor description of sensor 4" + e + "vendor description of sensor 5");
-    row("sensor model", {"inertial sensor_model_desc NRV IMU6"}, shown(7, 2), Typical + "\nerror" + e + "model "
-        "description of sensor 4");
     row("body description", {"body desc standard b02"}, shown(5, 3), Typical + "\n*" + c + "body description of body 3");
     row("body count: the id shown", {"body number_of_bodies standard"}, shown(2, 3), Typical + "\n~standard b01" + e
         + "number of bodies" + e + "number of bodies");
@@ -419,7 +411,6 @@ void tst_InertialSettingsDlg::failures_data()
     row("sensor battery", {"inertial sensor_battery " + S1}, shown(2, 7), Typical + "\n" + e + "battery status of sensor");
     row("sensor temperature", {"inertial sensor_temperature " + S1}, shown(2, 8), Typical + "\n" + e + "temperature "
         "status of sensor 2");
-    row("temperature not finite", {"inertial sensor_temperature " + S1 + "=inf 36.0"}, shown(2, 8), Typical + "\n");
     row("sensor output frequency", {"inertial sensor_output_frequency " + S2}, shown(1, 9), Typical + "\n" + e
         + "frequency of sensor 2");
     row("output frequency of 10 Hz: nothing shown", {"inertial sensor_output_frequency " + S2 + "=10.0"}, shown(1, 9),
@@ -430,8 +421,6 @@ void tst_InertialSettingsDlg::failures_data()
         "modes of inertial system");
     row("mode id", {"inertial wakeup_mode t02"}, shown(7, 6), Typical + "\n[Wake on USB]" + e + "wakeup modes of "
         "inertial system");
-    row("mode description", {"inertial wakeup_mode_desc 'wm_tap'"}, shown(7, 6), Typical + "\n[Wake on USB]" + e
-        + "wakeup description of inertial system");
     row("modes a sensor offers", {"inertial sensor_wakeup_mode_available " + S2 + " 'wm_radio'"}, shown(1, 6), Typical
         + "\n[]" + e + "available wakeup mode of sensor S2" + e + "available wakeup mode of sensor ");
     row("mode of a sensor", {"inertial sensor_wakeup_mode " + S2}, shown(1, 6), Typical + "\n[Wake by radio]" + e
@@ -439,7 +428,6 @@ void tst_InertialSettingsDlg::failures_data()
     row("frequency limits", {"inertial limit frequency"}, shown(-1, 0), Typical + e + "minimum maximum range of the "
         "inertial frequency" + e + "hybrid frequency");
     row("frequency", {"inertial frequency"}, shown(-1, 0), Typical + e + "the inertial frequency");
-    row("warm-up state", {"inertial warmup"}, shown(-1, 0), Typical + c + "warmup status");
 }
 
 void tst_InertialSettingsDlg::secondOpeningStartsAfresh_data()
@@ -452,14 +440,11 @@ void tst_InertialSettingsDlg::secondOpeningStartsAfresh_data()
     };
     const QByteArray warm = "inertial warmup=yes";
     const QByteArray hint = "inertial transceiver_suggested_radio_channel " + T1 + "=0";
-    row("lock released", {"config is_changeable=no"}, {"config is_changeable=yes"});
-    row("warm-up ended", {warm}, {"inertial warmup=no"});
     row("warm-up, then locked", {warm}, {"config is_changeable=no"});
     row("warm-up, then no transceiver", {warm}, {"inertial number_of_transceivers=0"});
     row("tracking back", {"inertial available=no"}, {"inertial available=yes"});
     row("locked, then tracking unavailable", {"config is_changeable=no"}, {"config is_changeable=yes",
                                                                           "inertial available=no"});
-    row("scanned since", {hint}, {"inertial transceiver_suggested_radio_channel " + T1 + "=14"});
     row("a hint, then an old controller", {hint}, {"version=1.11"});
     row("other channels usable", {}, {"inertial transceiver_available_radio_channel " + T1 + " t05=30"});
 }
@@ -493,38 +478,6 @@ void tst_InertialSettingsDlg::secondOpeningStartsAfresh()
     delete std::exchange(dialog, new InertialSettingsDlg(fake, host, &versions));
     open([&] { fresh = snapshot(); });
     QCOMPARE(reused, fresh);
-}
-
-void tst_InertialSettingsDlg::reopenMessage_data()
-{
-    QTest::addColumn<QByteArray>("text");
-    QTest::addColumn<int>("runs");
-    QTest::newRow("reopen") << QByteArray("reopen") << 1;
-    QTest::newRow("capital R") << QByteArray("Reopen") << 0;
-    QTest::newRow("a word behind") << QByteArray("reopen now") << 0;
-}
-
-void tst_InertialSettingsDlg::reopenMessage()
-{
-    QFETCH(QByteArray, text);
-    QFETCH(int, runs);
-
-    int ran = 0;
-    ModalDialogHelper::when_active("InertialSettingsDlg", [&](QWidget* w) {
-        // Asked again while it runs, by the menu or the message: no second run.
-        ran += 1 + fake->deliver("InertialModule", 0, "x", "reopen");
-        QCoreApplication::processEvents();
-        dialog->update_and_exec();
-        ModalDialogHelper::close(w);
-    });
-    QCOMPARE(fake->deliver("InertialModule", 0, "x", text.constData()) + ran, 0);   // queued: nothing yet
-    QCoreApplication::processEvents();
-    QCOMPARE(ran, runs);
-    ModalDialogHelper::clear_pending();
-    // The dialog runs again as it stands, without asking the controller.
-    QCOMPARE(fake->lines(), QList<QByteArray>());
-    delete std::exchange(dialog, nullptr);   // gone with its receiver
-    QCOMPARE(fake->receiver("InertialModule"), nullptr);
 }
 
 // --- what the user does on the open dialog -----------------------------------------
@@ -563,21 +516,11 @@ void tst_InertialSettingsDlg::refresh_data()
         QMetaObject::invokeMethod(dialog, "update_buttons");
         return page() + '\n' + w<QLabel>("label_error")->text() + QString::number(w("progressBar")->isVisible());
     }, "tableWidget |  | Warmup start\n" + Red.arg("Hybrid tracking is not available!") + "0");
-    row("presence poll stops when tracking goes", {}, [this] {
-        script({"inertial available=no"});
-        QMetaObject::invokeMethod(dialog, "update_sensors_not_present");
-        return page().section(" | ", 1, 1) + ' ' + asked().join('|');
-    }, "buttonTimer inertial available");
     row("an edited cell holds the refresh", {}, [this] {
         emit table()->cellClicked(2, Name);
         QMetaObject::invokeMethod(dialog, "update_buttons");
         return asked().join('|');
     }, "inertial available");
-    row("a plain click holds nothing", {}, [this] {
-        emit table()->cellClicked(2, Id);
-        QMetaObject::invokeMethod(dialog, "update_buttons");
-        return QString::number(asked().size());
-    }, "35");
     row("adding sensors pauses it", {}, [this] {
         QString during;
         ModalDialogHelper::when_active("AddInertialSensorDlg", [&](QWidget* w) {
@@ -603,8 +546,6 @@ void tst_InertialSettingsDlg::refresh_data()
         };
     };
     row("keys 3, then 1", {}, keys(Qt::Key_3, Qt::Key_1), "20 ");
-    row("keys 2, then F3 and F4 go on", {}, keys(Qt::Key_2, Qt::Key_F3), "12 ");
-    row("key F4 goes on, 4 does nothing", {}, keys(Qt::Key_F4, Qt::Key_4), "11 ");
     row("F3 on the last page wraps", {}, keys(Qt::Key_3, Qt::Key_F3), "20 ");
     row("Escape closes", {}, keys(Qt::Key_2, Qt::Key_Escape), "1-1 ");
 }
@@ -631,8 +572,6 @@ void tst_InertialSettingsDlg::warmup_data()
     row("start refused", {"inertial warmup yes"}, press(ends), ready + " 18.0\u00b0C@50\n" + ready
         + "\n> inertial warmup yes @10000\n! Could not start warmup of sensors");
     row("stop", {"inertial warmup=yes"}, press(ends), ready + " 18.0\u00b0C@50\n" + ready + "\n> inertial warmup no @10000");
-    row("stop refused", {"inertial warmup=yes", "inertial warmup no"}, press(ends), "warmup | buttonTimer sensorDataTimer"
-        " | Warmup stop 18.0\u00b0C@50\n" + ready + "\n> inertial warmup no @10000\n! Could not stop warmup of sensors");
     row("without a transceiver the scan stays off", {"inertial number_of_transceivers=0"}, press({"inertial warmup=no"}),
         "warmup | sensorDataTimer | Warmup stop 18.0\u00b0C@50\naddSensor mode frequency tableWidget warmup |  | "
         "Warmup start\n> inertial warmup yes @10000");
@@ -666,8 +605,6 @@ void tst_InertialSettingsDlg::deletion_data()
         ask1 + delete1 + "\n! Error: Unable to get number of bodies");
     row("detaching refused: deleted anyway", ok + QList<QByteArray>{"body inertial_sensor standard b01 none"},
         remove(2, QMessageBox::Yes), ask1 + six + delete1 + "\n! Could not set body of sensor: standard b01");
-    row("count refused", ok + QList<QByteArray>{"standard number_of_bodies 6"}, remove(2, QMessageBox::Yes),
-        ask1 + six + delete1 + "\n! Could not set standard number of bodies 6");
     row("command refused: table kept", {"norvane inertial delete_sensor " + S1 + "=no"}, remove(2, QMessageBox::Yes),
         "Warning: Delete sensor S1?\n" + Typical + "\n> body inertial_sensor standard b01 none\n" + six + delete1
         + "\n! Could not delete sensor S1");
@@ -679,7 +616,6 @@ void tst_InertialSettingsDlg::deletion_data()
         };
     };
     row("detaching an assigned sensor", {}, detach("NRV IMU9 'S0001'", {}), "\n> body inertial_sensor standard b01 none");
-    row("detaching an unassigned one: nothing", {}, detach("NRV IMU9 'S0002'", {}), "");
     row("detaching: body unknown", {}, detach("NRV IMU9 'S0001'", {"inertial body_of_sensor " + S1}), "\n! Error: Unable "
         "to get assignment of sensor");
     row("detaching refused", {}, detach("NRV IMU9 'S0001'", {"body inertial_sensor standard b01 none"}), "\n> body "
@@ -708,7 +644,6 @@ void tst_InertialSettingsDlg::nameEdit_data()
     row("refused: the old name back", {rename}, edit(2, true), "Body 01* refreshed\n> " + rename
         + "\n! Error: Unable to set body description standard b01");
     row("no body: nothing sent", {}, edit(1, true), "~Left hand refreshed");
-    row("not clicked: a fill, not an edit", {}, edit(2, false), "Left hand* refreshed");
 }
 
 void tst_InertialSettingsDlg::wakeupModes_data()
@@ -778,7 +713,6 @@ void tst_InertialSettingsDlg::wakeupModes_data()
         + "S3 'wm_radio' @10000");
     row("all: only the cable sensor", {"inertial number_of_sensors=1", "inertial sensor d01=NRV IMU6 'C0004'"},
         all("Wake on USB"), "Wake on USB: Wake on USB -> Wake on USB" + on + "C4 'wm_usb' @10000" + off + "C4 10 @10000");
-    row("all: no sensors, no choice", {"inertial number_of_sensors=0"}, all(""), ":  -> ");
 }
 
 void tst_InertialSettingsDlg::frequency_data()
@@ -803,7 +737,6 @@ void tst_InertialSettingsDlg::frequency_data()
         "1 to 1000: 900\n> inertial frequency 900.000000" + limits);
     row("one limit only", {hz50, "inertial limit frequency=250"}, set(0.5), "1 to 1000: 1\n> inertial frequency "
         "1.000000" + limits);
-    row("not finite", {hz50, "inertial limit frequency=1.0 inf"}, set(50.0), "1 to 1000: 50" + limits);
 }
 
 void tst_InertialSettingsDlg::channels_data()
@@ -859,13 +792,6 @@ void tst_InertialSettingsDlg::channels_data()
         return (dialog->get_onlyPresent_sensorList_of_dongle(QString(T2)) + QStringList{"|"}
                 + dialog->get_onlyNotPresent_sensorList_of_dongle(QString(T2))).join(' ');
     }, "| S5\n! Error: Unable to get present status of sensor 1\n! Error: Unable to get present status of sensor 1");
-    row("one transceiver's activity measured", {"inertial transceiver_radio_channel_activity " + T1 + " 16=1.0"}, [this] {
-        dialog->scan_transciever_radio_channel_activity(QString(T1));
-        QStringList busy;
-        for (int channel : dialog->busy_channels(QString(T1)))
-            busy << QString::number(channel);
-        return busy.join(' ');
-    }, "16");
     auto sensor = [this](const char* channel) {
         return [=] {
             auto* combo = qobject_cast<QComboBox*>(table()->cellWidget(1, Channel));
@@ -875,7 +801,6 @@ void tst_InertialSettingsDlg::channels_data()
     };
     row("a sensor to another transceiver's channel", {}, sensor("20"), "2[20]\n> inertial sensor_radio_channel S2 20 "
         "@10000");
-    row("a sensor already there: nothing sent", {"inertial sensor_radio_channel " + S2 + "=20"}, sensor("20"), "2[20]");
     row("a sensor's move refused", {"inertial sensor_radio_channel " + S2 + " 20"}, sensor("20"), "2[12]\n> inertial "
         "sensor_radio_channel S2 20 @10000\n! Error: Unable to set radio channel of sensor");
 }
@@ -908,7 +833,6 @@ void tst_InertialSettingsDlg::channelScan_data()
     const QString done = "|Scanning available channels %p% 10 10 1|";
     const QString command = "\n> norvane inertial scan_transceiver_radio_channels @10000";
     row("fully occupied, 1.0", ok, scan("=1.0"), "hint|16" + done + "grey|green|" + command);
-    row("not measured, -1.0", ok, scan("=-1.0"), "hint|16" + done + "grey|green|" + command);
     row("unanswered", ok, scan(""), "hint|16" + done + "grey|green|" + command + "\n! Could not get activity of dongle: T1");
     row("nearly occupied, 0.99", ok, scan("=0.99"), "hint|" + done + "|green|" + command);
     row("command refused", {unscanned, "norvane inertial scan_transceiver_radio_channels=norvane busy"}, scan("=1.0"),
