@@ -148,7 +148,6 @@ void tst_InertialStatusBar::polls_data()
     };
     row("1.11: nothing asked", 11, idle, idle, off + " [0]\n" + off + '\n' + off);
     row("1.12: the first with inertial sensors", 12, idle, idle, ready + " [4]\n" + ready + '\n' + ready);
-    row("idle stays idle", 21, idle, idle, ready + " [4]\n" + ready + '\n' + ready);
     row("said no", 21, {"no", "2", "no", "0"}, idle, off + " [1]\n" + ready + '\n' + ready);
     row("compared whole", 21, {"yes please", "2", "no", "0"}, {"yes please", "2", "no", "0"}, off + " [1]\n" + off + '\n'
         + off);
