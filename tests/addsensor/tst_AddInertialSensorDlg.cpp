@@ -23,22 +23,6 @@ const QByteArray Scanned = "inertial number_of_scanned_sensors";
 const QByteArray Add7 = "norvane inertial add_sensor NRV IMU9 'S0007' 35";
 const QByteArray Add8 = "norvane inertial add_sensor NRV IMU6 'C0008' 35";
 
-// Every text a label showed while it was painted: the scan repaints it
-// before each blocking command, so this is what the user saw meanwhile.
-class Painted : public QObject
-{
-public:
-    explicit Painted(QLabel* label) : label(label) { label->installEventFilter(this); }
-    bool eventFilter(QObject*, QEvent* event) override
-    {
-        if (event->type() == QEvent::Paint && !texts.contains(label->text()))
-            texts << label->text();
-        return false;
-    }
-    QLabel* label;
-    QStringList texts;
-};
-
 } // namespace
 
 // The add sensor dialog against the typical system, whose first transceiver
@@ -178,7 +162,6 @@ void tst_AddInertialSensorDlg::scanModes_data()
     QTest::newRow("one transceiver") << QByteArray("1") << "default channels, single channel, all channels, USB";
     QTest::newRow("none") << QByteArray("0") << "USB";
     QTest::newRow("query fails") << QByteArray() << "USB";
-    QTest::newRow("negative count") << QByteArray("-3") << "USB";
 }
 
 void tst_AddInertialSensorDlg::scanModes()
@@ -205,7 +188,6 @@ void tst_AddInertialSensorDlg::scanModes()
 
 void tst_AddInertialSensorDlg::usbScanAsksInOrder()
 {
-    Painted painted(w<QLabel>("label_channel"));
     QString during;
     open([&] {
         QVERIFY(QTest::qWaitForWindowExposed(dialog));
@@ -227,7 +209,6 @@ void tst_AddInertialSensorDlg::usbScanAsksInOrder()
     const FakeController::Call& command = fake->calls().at(9);
     QVERIFY(command.wait_separately && command.timeout_ms == 20000 && command.timeout_flag);
     QCOMPARE(fake->calls().at(10).operation, FakeController::WaitForCompletion);
-    QVERIFY(painted.texts.contains("Scanning USB..."));
     // A paired sensor is listed but cannot be accepted.
     QCOMPARE(rows(), (QStringList{"S0007 Norvane IMU9 sensor 35 o", "S0001 Norvane IMU9 sensor 35 -",
                                   "C0008 Norvane IMU6 sensor 35 o"}));
@@ -303,8 +284,6 @@ void tst_AddInertialSensorDlg::scanFailures_data()
     const QByteArray reset = "inertial number_of_scan_channels 0";
     QTest::newRow("sensor count") << QByteArray("inertial number_of_sensors") << "Error: Unable to get numbers of sensor"
                                   << reset << 3;
-    QTest::newRow("a paired sensor") << QByteArray("inertial sensor d02") << "Error: Unable to get informations of sensor"
-                                     << reset << 3;
     QTest::newRow("scan slots") << QByteArray("inertial number_of_scan_channels 1") << "Error: Unable to set channels "
                                    "to scan" << QByteArray("inertial number_of_scan_channels 1") << 0;
     QTest::newRow("usb slot") << QByteArray("inertial scan_transceiver_channel t01 usb") << "Error: Unable to scan channel "
@@ -318,8 +297,6 @@ void tst_AddInertialSensorDlg::scanFailures_data()
                                          "of sensor to add" << reset << 1;
     QTest::newRow("its model") << QByteArray("inertial sensor_model_desc NRV IMU6") << "Error: Unable to get description "
                                   "of sensor to add" << reset << 2;
-    QTest::newRow("its vendor") << QByteArray("inertial sensor_vendor_desc NRV") << "Error: Unable to get vendor "
-                                   "description of sensor to add" << reset << 0;
     QTest::newRow("no more sensors") << QByteArray("inertial scanned_sensor d02=") << "" << reset << 1;
     QTest::newRow("a short line is skipped") << QByteArray("inertial scanned_sensor d02=NRV IMU9") << "" << reset << 2;
     QTest::newRow("resetting the slots") << reset << "Error: Unable to set channels to scan" << reset << 3;
@@ -375,15 +352,6 @@ void tst_AddInertialSensorDlg::haltedScanAndReopening()
         QVERIFY(dialog->close());
     });
     QCOMPARE(found, QString(", -1%, 111 USB 41 3"));   // a reset bar shows no value
-    // Cancel ends a scan halted by Escape.
-    open([&] {
-        auto* modes = w<QComboBox>("comboBox_scanMode");
-        modes->setCurrentIndex(modes->findText("all channels"));
-        w<QPushButton>("pushButton_scan")->click();
-        QTest::keyClick(dialog, Qt::Key_Escape);
-        w<QPushButton>("pushButton_cancel")->click();
-        QTRY_COMPARE(state(), QString("Scanning channels aborted, 0%, 111"));
-    });
     QCOMPARE(fake->count("norvane inertial scan_sensors"), 1);
 }
 
@@ -450,8 +418,6 @@ void tst_AddInertialSensorDlg::apply_data()
     QTest::newRow("not sent") << false << Add7 << QList<QByteArray>{Add7} << "x-x Error: Unable to add sensor";
     QTest::newRow("maximum unknown") << false << QByteArray("standard max_number_of_bodies") << QList<QByteArray>{}
                                      << "x-x Error: Unable to get max number of bodies";
-    QTest::newRow("count unknown") << false << QByteArray("standard number_of_bodies") << QList<QByteArray>{Add7}
-                                   << "x-x Error: Unable to get number of bodies";
     QTest::newRow("calibration unknown") << false << QByteArray("body calibrated standard b01") << QList<QByteArray>{Add7}
                                          << "x-x Error: Unable to get calibration of body";
     QTest::newRow("sensor of a body unknown") << false << QByteArray("body inertial_sensor standard b01")

@@ -7,8 +7,9 @@
 #include "ModalDialogHelper.h"
 #include "settings/ChannelComboBox.h"
 
-// The grid of radio channels: which cell holds which channel, the marks,
-// and what a user's pick reports while the program's own setting does not.
+// The grid of radio channels: which cell holds which channel, and what a
+// user's pick reports while the program's own setting does not. Its marks
+// are read where the settings dialog scans the channels.
 class tst_ChannelComboBox : public QObject
 {
     Q_OBJECT
@@ -17,22 +18,10 @@ private slots:
     void cleanup();
     void grid_data();
     void grid();
-    void setChannel_data();
-    void setChannel();
-    void marks();
     void pick_data();
     void pick();
     void popupShowsWholeGrid();
 };
-
-namespace {
-
-QTableWidgetItem* cell(ChannelComboBox& combo, int channel)
-{
-    return combo.table()->item((channel - 1) / combo.numberOfColumns(), (channel - 1) % combo.numberOfColumns());
-}
-
-} // namespace
 
 void tst_ChannelComboBox::cleanup()
 {
@@ -82,73 +71,6 @@ void tst_ChannelComboBox::grid()
                  .arg(combo.numberOfColumns()).arg(table->rowCount()).arg(filled.first(), filled.last()), grid);
     QCOMPARE(filled.size(), combo.maximumChannel() - combo.minimumChannel() + 1);
     QCOMPARE(combo.count(), table->rowCount());
-}
-
-void tst_ChannelComboBox::setChannel_data()
-{
-    QTest::addColumn<int>("from");
-    QTest::addColumn<int>("to");
-    QTest::addColumn<QString>("shown");
-    QTest::addColumn<int>("announced");
-
-    QTest::newRow("another row") << 3 << 17 << "17" << 1;
-    QTest::newRow("same row, another column") << 2 << 5 << "5" << 1;
-    QTest::newRow("same column, another row") << 12 << 22 << "22" << 1;
-    QTest::newRow("the same channel") << 17 << 17 << "17" << 0;
-    QTest::newRow("below the minimum: nothing") << 17 << 1 << "" << 1;
-    QTest::newRow("above the maximum: nothing") << 17 << 26 << "" << 1;
-    QTest::newRow("nothing to nothing") << -1 << 0 << "" << 0;
-}
-
-void tst_ChannelComboBox::setChannel()
-{
-    QFETCH(int, from);
-    QFETCH(int, to);
-    QFETCH(QString, shown);
-    QFETCH(int, announced);
-
-    ChannelComboBox combo(nullptr, "NRV Dongle 'T7'");
-    combo.setUserAction(true);
-    combo.setChannel(from);
-    QSignalSpy texts(&combo, SIGNAL(currentIndexChanged(QString)));
-    QSignalSpy chosen(&combo, &ChannelComboBox::transceiverChannelChosen);
-    combo.setChannel(to);
-    QCOMPARE(combo.currentText() + ' ' + QString::number(combo.channel()), shown + ' ' + (shown.isEmpty() ? "-1" : shown));
-    QCOMPARE(texts.count(), announced);
-    QCOMPARE(announced ? texts.first().first().toString() : shown, shown);
-    QCOMPARE(chosen.count(), 0);
-    // New limits move the channel to its new cell without announcing it; a
-    // channel they leave out shows nothing.
-    combo.setChannelLimits(2, 81);
-    combo.setChannelLimits(2, 20);
-    QCOMPARE(combo.currentText(), to > 20 || shown.isEmpty() ? "" : shown);
-    QCOMPARE(texts.count(), announced + (to > 20 && !shown.isEmpty() ? 1 : 0));
-}
-
-void tst_ChannelComboBox::marks()
-{
-    ChannelComboBox combo;
-    const QBrush free = QApplication::palette().brush(QPalette::Active, QPalette::Base);
-    const QBrush busy = QApplication::palette().brush(QPalette::Disabled, QPalette::Base);
-    auto looks = [&](QList<int> channels) {
-        QStringList seen;
-        for (int channel : channels) {
-            const QTableWidgetItem* c = cell(combo, channel);
-            seen << (c->background() == QBrush(Qt::green) ? "green" : c->background() == busy ? "busy"
-                     : c->background() == free ? "free" : "?") + QString(c->font().bold() ? " bold" : "");
-        }
-        return seen.join(", ");
-    };
-    combo.setMarkSuggestedChannel(7);
-    combo.setMarkedChannels({3, 7, 14});
-    QCOMPARE(looks({3, 4, 7, 14}), QString("busy, free, green bold, busy"));
-    QCOMPARE(cell(combo, 7)->toolTip(), QString("Suggested channel, busy"));
-    combo.setMarkedChannels({4});
-    combo.setMarkSuggestedChannel(9);
-    QCOMPARE(looks({3, 4, 7, 9}), QString("free, busy, free, green bold"));
-    combo.setChannelLimits(2, 40);   // a new grid keeps both marks
-    QCOMPARE(looks({4, 9, 33}), QString("busy, green bold, free"));
-    QCOMPARE(cell(combo, 4)->toolTip() + '|' + cell(combo, 9)->toolTip(), QString("Busy channel|Suggested channel"));
 }
 
 void tst_ChannelComboBox::pick_data()

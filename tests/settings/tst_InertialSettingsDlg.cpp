@@ -100,13 +100,26 @@ private:
     QTableWidget* table() const { return w<QTableWidget>("tableWidget"); }
     QString cell(int row, int column) const;
     QStringList rows() const;
-    QString ids() const;
+    QString ids() const
+    {
+        QStringList texts;
+        for (int row = 0; row < table()->rowCount(); ++row)
+            texts << table()->item(row, Id)->text();
+        return texts.join(' ');
+    }
     // The enabled page widgets, the running timers and the warm-up text.
     QString page() const;
     // The rows an action changed, as they now read.
     QString changed_rows(const std::function<void()>& action);
     // The lines a step asked, in order.
-    QList<QByteArray> asked() const;
+    QList<QByteArray> asked() const
+    {
+        QList<QByteArray> lines;
+        for (const FakeController::Call& call : fake->calls().mid(mark))
+            if (!call.line.isEmpty())
+                lines << call.line;
+        return lines;
+    }
     void click(int row, int column);
     // Answers the next message box with `button`; `box` then reads "title: text".
     void answer_box(int button);
@@ -242,14 +255,6 @@ QStringList tst_InertialSettingsDlg::rows() const
     return result;
 }
 
-QString tst_InertialSettingsDlg::ids() const
-{
-    QStringList texts;
-    for (int row = 0; row < table()->rowCount(); ++row)
-        texts << table()->item(row, Id)->text();
-    return texts.join(' ');
-}
-
 QString tst_InertialSettingsDlg::page() const
 {
     QStringList widgets;
@@ -273,15 +278,6 @@ QString tst_InertialSettingsDlg::changed_rows(const std::function<void()>& actio
     for (const QString& row : before)
         after.removeOne(row);
     return after.join('\n');
-}
-
-QList<QByteArray> tst_InertialSettingsDlg::asked() const
-{
-    QList<QByteArray> lines;
-    for (const FakeController::Call& call : fake->calls().mid(mark))
-        if (!call.line.isEmpty())
-            lines << call.line;
-    return lines;
 }
 
 void tst_InertialSettingsDlg::click(int row, int column)
@@ -318,7 +314,6 @@ void tst_InertialSettingsDlg::opening_data()
                + QString(" %1 round trips%2").arg(mark).arg(w("progressBar")->isVisible() ? ", progress" : "");
     };
     const QString old = Red.arg("This controller does not support hybrid sensors - please update your controller");
-    row("1.8: nothing asked", {"version=1.8"}, opened, "tableWidget |  | Warmup start\n\n" + old + "\nsensor 0 round trips");
     row("1.11: only the lock asked", {"version=1.11"}, opened, "tableWidget |  | Warmup start\n\n" + old
         + "\nsensor 1 round trips");
     row("locked: all filled, nothing usable", {"config is_changeable=no"}, opened, " |  | Warmup start\n" + Typical
@@ -373,13 +368,8 @@ void tst_InertialSettingsDlg::failures_data()
     row("transceiver identity", {"inertial transceiver d02"}, shown(-1, 0), e + "informations of dongle 2");
     row("transceiver channel", {"inertial transceiver_radio_channel " + T1}, shown(0, 5), "T1001\n[]" + e
         + "radio channel of dongle 1");
-    row("sensor identity", {"inertial sensor d03"}, shown(-1, 0), "T1001 S0002 S0001 T1002" + c + "informations of sensor 3");
     row("body of a sensor", {"inertial body_of_sensor " + S2}, shown(-1, 0), "T1001 S0001 T1002" + c + "body of sensor 2");
     // Failures that leave a fallback and go on.
-    row("two-word transceiver", {"inertial transceiver d01=NRV Dongle"}, shown(-1, 0), "T1002 S0005 S0003 cable "
-        "connected: C0004 S0002 S0001" + e + "informations of dongle 1");
-    row("two-word sensor", {"inertial sensor d02=NRV IMU9"}, shown(-1, 0), "T1001 S0001 T1002 S0005 S0003 cable "
-        "connected: C0004" + e + "vendor model of inertial sensor");
     row("sensor count", {"inertial number_of_sensors"}, shown(-1, 0), "T1001 T1002" + c + "number of sensors");
     row("transceiver firmware", {"inertial transceiver_version " + T1}, shown(0, 4), Typical + "\nerror" + e
         + "firmware version of dongle 1");
@@ -390,44 +380,23 @@ void tst_InertialSettingsDlg::failures_data()
         + "\n[12]" + e + "number of available channels of dongle 1" + e + "number of available dongle channels");
     row("one usable channel", {"inertial transceiver_available_radio_channel " + T1 + " t05"}, shown(0, 5), Typical
         + "\n[12]" + e + "available channel of dongle 1");
-    row("channel activity", {"inertial transceiver_radio_channel_activity " + T1 + " 12"}, shown(-1, 0), Typical
-        + c + "activity of dongle: T1");
-    row("suggested channel", {"inertial transceiver_suggested_radio_channel " + T2}, shown(-1, 0), Typical + e
-        + "suggested radio channel of dongle 2");
-    row("transceiver of a sensor", {"inertial transceiver_of_sensor " + S2}, shown(-1, 0), "T1001 S0001 T1002 S0005 "
-        "S0003 cable connected: C0004 S0002" + c + "associated transciever of sensor 2, transciever not connected?");
     row("sensor vendor", {"inertial sensor_vendor_desc NRV"}, shown(1, 1), Typical + "\nerror" + e + "vendor "
         "description of sensor 1" + e + "vendor description of sensor 2" + e + "vendor description of sensor 3" + e
         + "vendor description of sensor 4" + e + "vendor description of sensor 5");
-    row("body description", {"body desc standard b02"}, shown(5, 3), Typical + "\n*" + c + "body description of body 3");
     row("body count: the id shown", {"body number_of_bodies standard"}, shown(2, 3), Typical + "\n~standard b01" + e
         + "number of bodies" + e + "number of bodies");
     row("sensor presence", {"inertial sensor_present " + S3}, shown(5, 8), Typical + "\nnot present" + e
         + "informations of sensor 3");
-    row("sensor firmware", {"inertial sensor_version " + S1}, shown(2, 4), Typical + "\nv0.0.0" + e + "firmware "
-        "version of sensor");
     row("sensor channel", {"inertial sensor_radio_channel " + S3}, shown(5, 5), Typical + "\n[]" + e + "sensor "
         "channel" + e + "radio channel of sensor");
-    row("sensor battery", {"inertial sensor_battery " + S1}, shown(2, 7), Typical + "\n" + e + "battery status of sensor");
-    row("sensor temperature", {"inertial sensor_temperature " + S1}, shown(2, 8), Typical + "\n" + e + "temperature "
-        "status of sensor 2");
     row("sensor output frequency", {"inertial sensor_output_frequency " + S2}, shown(1, 9), Typical + "\n" + e
         + "frequency of sensor 2");
-    row("output frequency of 10 Hz: nothing shown", {"inertial sensor_output_frequency " + S2 + "=10.0"}, shown(1, 9),
-        Typical + "\n");
     row("hand-eye state", {"inertial sensor_handeye " + S2}, shown(1, 10), Typical + "\n~{red}" + e + "calibration "
         "status of sensor");
     row("mode count", {"inertial number_of_wakeup_modes"}, shown(1, 6), Typical + "\n[]" + e + "number of wakeup "
         "modes of inertial system");
-    row("mode id", {"inertial wakeup_mode t02"}, shown(7, 6), Typical + "\n[Wake on USB]" + e + "wakeup modes of "
-        "inertial system");
-    row("modes a sensor offers", {"inertial sensor_wakeup_mode_available " + S2 + " 'wm_radio'"}, shown(1, 6), Typical
-        + "\n[]" + e + "available wakeup mode of sensor S2" + e + "available wakeup mode of sensor ");
-    row("mode of a sensor", {"inertial sensor_wakeup_mode " + S2}, shown(1, 6), Typical + "\n[Wake by radio]" + e
-        + "wakeup mode of sensor S2" + e + "wakeup mode of sensor S2");
     row("frequency limits", {"inertial limit frequency"}, shown(-1, 0), Typical + e + "minimum maximum range of the "
         "inertial frequency" + e + "hybrid frequency");
-    row("frequency", {"inertial frequency"}, shown(-1, 0), Typical + e + "the inertial frequency");
 }
 
 void tst_InertialSettingsDlg::secondOpeningStartsAfresh_data()
@@ -506,8 +475,6 @@ void tst_InertialSettingsDlg::refresh_data()
                        "{yellow}|{118}\n";
     row("button refresh: every row", {}, tick("buttonTimer"), s2.arg("") + s1.arg("~{red}") + s5.arg("100 Hz")
         + "2000 ms, then buttonTimer notPresentTimer");
-    row("the first refresh, a quarter second in", {}, tick("firstRefreshTimer"), s2.arg("") + s1.arg("~{red}")
-        + s5.arg("100 Hz") + "250 ms, then buttonTimer notPresentTimer");
     row("presence poll: the absent only, once", {}, tick("notPresentTimer"), s5.arg("") + "2000 ms, then buttonTimer");
     row("warm-up tick: the live columns", {"inertial warmup=yes"}, tick("sensorDataTimer"),
         s2.arg("100 Hz") + s1.arg("{green}") + s5.arg("") + "2000 ms, then buttonTimer sensorDataTimer");
@@ -516,11 +483,6 @@ void tst_InertialSettingsDlg::refresh_data()
         QMetaObject::invokeMethod(dialog, "update_buttons");
         return page() + '\n' + w<QLabel>("label_error")->text() + QString::number(w("progressBar")->isVisible());
     }, "tableWidget |  | Warmup start\n" + Red.arg("Hybrid tracking is not available!") + "0");
-    row("an edited cell holds the refresh", {}, [this] {
-        emit table()->cellClicked(2, Name);
-        QMetaObject::invokeMethod(dialog, "update_buttons");
-        return asked().join('|');
-    }, "inertial available");
     row("adding sensors pauses it", {}, [this] {
         QString during;
         ModalDialogHelper::when_active("AddInertialSensorDlg", [&](QWidget* w) {
@@ -546,7 +508,6 @@ void tst_InertialSettingsDlg::refresh_data()
         };
     };
     row("keys 3, then 1", {}, keys(Qt::Key_3, Qt::Key_1), "20 ");
-    row("F3 on the last page wraps", {}, keys(Qt::Key_3, Qt::Key_F3), "20 ");
     row("Escape closes", {}, keys(Qt::Key_2, Qt::Key_Escape), "1-1 ");
 }
 
@@ -569,8 +530,6 @@ void tst_InertialSettingsDlg::warmup_data()
     row("start: the rows read at once, the page locked", {"inertial sensor_temperature " + S1 + "=35.0 36.0"},
         press({"inertial warmup=no"}), "warmup | buttonTimer sensorDataTimer | Warmup stop 35.0\u00b0C@97\n" + ready
         + "\n> inertial warmup yes @10000");
-    row("start refused", {"inertial warmup yes"}, press(ends), ready + " 18.0\u00b0C@50\n" + ready
-        + "\n> inertial warmup yes @10000\n! Could not start warmup of sensors");
     row("stop", {"inertial warmup=yes"}, press(ends), ready + " 18.0\u00b0C@50\n" + ready + "\n> inertial warmup no @10000");
     row("without a transceiver the scan stays off", {"inertial number_of_transceivers=0"}, press({"inertial warmup=no"}),
         "warmup | sensorDataTimer | Warmup stop 18.0\u00b0C@50\naddSensor mode frequency tableWidget warmup |  | "
@@ -601,13 +560,8 @@ void tst_InertialSettingsDlg::deletion_data()
     row("unassigned: only the command", ok, remove(1, QMessageBox::Yes), "Warning: Delete sensor S2?\nT1001 S0001 T1002 "
         "S0005 S0003 cable connected: C0004\n> norvane inertial delete_sensor S2");
     row("assigned: the body let go first", ok, remove(2, QMessageBox::Yes), ask1 + six + delete1);
-    row("body count unknown: not written", ok + QList<QByteArray>{"standard number_of_bodies"}, remove(2, QMessageBox::Yes),
-        ask1 + delete1 + "\n! Error: Unable to get number of bodies");
     row("detaching refused: deleted anyway", ok + QList<QByteArray>{"body inertial_sensor standard b01 none"},
         remove(2, QMessageBox::Yes), ask1 + six + delete1 + "\n! Could not set body of sensor: standard b01");
-    row("command refused: table kept", {"norvane inertial delete_sensor " + S1 + "=no"}, remove(2, QMessageBox::Yes),
-        "Warning: Delete sensor S1?\n" + Typical + "\n> body inertial_sensor standard b01 none\n" + six + delete1
-        + "\n! Could not delete sensor S1");
     auto detach = [this](const char* sensor, const QList<QByteArray>& failing) {
         return [=] {
             script(failing);
@@ -616,12 +570,8 @@ void tst_InertialSettingsDlg::deletion_data()
         };
     };
     row("detaching an assigned sensor", {}, detach("NRV IMU9 'S0001'", {}), "\n> body inertial_sensor standard b01 none");
-    row("detaching: body unknown", {}, detach("NRV IMU9 'S0001'", {"inertial body_of_sensor " + S1}), "\n! Error: Unable "
-        "to get assignment of sensor");
     row("detaching refused", {}, detach("NRV IMU9 'S0001'", {"body inertial_sensor standard b01 none"}), "\n> body "
         "inertial_sensor standard b01 none\n! Error: Unable to delete assignment of sensor");
-    row("transceiver row: no question", ok, remove(0, -1), "\n" + Typical);
-    row("cable row: no question", ok, remove(6, -1), "\n" + Typical);
 }
 
 void tst_InertialSettingsDlg::nameEdit_data()
@@ -664,27 +614,8 @@ void tst_InertialSettingsDlg::wakeupModes_data()
     row("radio: one line", {}, pick(5, "Wake by radio", {}), "Wake by radio, page (mixed)\n"
         "> inertial sensor_wakeup_mode S3 'wm_radio' @10000");
     row("tap: then a sleep time-out", {}, pick(2, "Wake on tap", {}), "Wake on tap, page (mixed)\n" + sent + slept);
-    row("refused: back to the controller's", {}, pick(2, "Wake on tap", {tap}), "Wake by radio, page (mixed)\n" + sent
-        + "\n! Error: Unable to set wakeup mode of sensor");
-    row("out of reach: nothing sent", {}, pick(2, "Wake on tap", {"inertial sensor_present " + S1}),
-        "Wake by radio, page (mixed)\n! Error: Unable to reach sensor");
     row("time-out refused: the mode stays", {}, pick(2, "Wake on tap", {sleep}), "Wake on tap, page (mixed)\n" + sent
         + slept + "\n! Error: Unable to set sleep timeout of sensor");
-    row("a wheel turned over it: only when it has the focus", {}, [this] {
-        auto* combo = qobject_cast<QComboBox*>(table()->cellWidget(2, Mode));
-        QStringList shown;
-        for (bool focus : {false, true}) {
-            if (focus) {
-                QApplication::setActiveWindow(dialog);
-                combo->setFocus();
-            }
-            QWheelEvent wheel(QPointF(5, 5), QPointF(combo->mapToGlobal(QPoint(5, 5))), QPoint(), QPoint(0, -120),
-                              Qt::NoButton, Qt::NoModifier, Qt::NoScrollPhase, false);
-            QCoreApplication::sendEvent(combo, &wheel);
-            shown << combo->currentText();
-        }
-        return shown.join(", ");
-    }, "Wake by radio, Wake on tap\n" + sent + slept);
     // The page's choice: the modes some sensor offers, the current one first.
     auto all = [this](const char* mode) {
         return [=] {
@@ -702,7 +633,6 @@ void tst_InertialSettingsDlg::wakeupModes_data()
     const QString two = "Wake on tap, Wake by radio, Wake on tap and Wake by radio -> ";
     const QString on = "\n> inertial sensor_wakeup_mode ";
     const QString off = "\n> inertial sensor_sleep_timeout ";
-    row("all: (mixed) changes nothing", {}, all("(mixed)"), five + "(mixed)");
     row("all: radio to every awake sensor offering it", {}, all("Wake by radio"), five + "(mixed)" + on + "S1 'wm_radio' "
         "@10000" + on + "S2 'wm_radio' @10000" + on + "S3 'wm_radio' @10000\n! Error: Unable to reach sensor S5");
     row("all: tap, each with its time-out", {"inertial number_of_sensors=2"}, all("Wake on tap"), "Wake by radio: " + two
@@ -728,9 +658,6 @@ void tst_InertialSettingsDlg::frequency_data()
     const QByteArray hz50 = "inertial frequency=50.0";
     const QString limits = "\n! Error: Unable to get hybrid frequency";
     row("sent with six decimals", {hz50}, set(100.0), "1 to 500: 100\n> inertial frequency 100.000000");
-    row("above the maximum: the maximum", {hz50, "inertial limit frequency=10.0 400.0"}, set(900.0),
-        "10 to 400: 400\n> inertial frequency 400.000000");
-    row("unchanged: nothing", {hz50}, set(50.0), "1 to 500: 50");
     row("refused: the controller's value", {hz50, "inertial frequency 120.000000"}, set(120.0), "1 to 500: 50\n"
         "> inertial frequency 120.000000\n! Error: Unable to set frequency of inertial system");
     row("limits unreadable: 1 to 1000", {hz50, "inertial limit frequency=low high"}, set(900.0),
@@ -770,23 +697,11 @@ void tst_InertialSettingsDlg::channels_data()
     row("a transceiver: its sensors first", {}, grid({"16"}, -1), "[16][16]" + moves + last);
     row("one left behind: Retry moves it", {}, grid({"12", "16"}, QMessageBox::Retry), text + "[16][16]" + moves + move1
         + last);
-    row("one left behind: Escape gives up", {}, grid({"12"}, QMessageBox::Escape), text + "[16][16]" + moves + last);
-    row("moving unanswered: named and left", {}, grid({}, QMessageBox::Escape),
-        text + "[16][16]" + moves + last + "\n! Error: Unable to get radio channel of sensor S1\n! Error: Unable to get "
-        "sensor channel\n! Error: Unable to get radio channel of sensor");
     row("a sleeping tap sensor is named, not moved", {"inertial sensor_radio_channel " + S3 + "=30"}, [this] {
         answer_box(QMessageBox::Escape);
         dialog->change_channel_of_dongle(QString(T2), 30);
         return box.section('\n', 2, 2);
     }, "Sensor: S5\n> inertial sensor_radio_channel S3 30 @10000\n> inertial transceiver_radio_channel T2 30 @10000");
-    row("the moves refused: reported, the transceiver moved", {"inertial sensor_radio_channel " + S1 + " 30",
-        "inertial transceiver_radio_channel " + T1 + " 30"}, [this] {
-        answer_box(QMessageBox::Escape);
-        dialog->change_channel_of_dongle(QString(T1), 30);
-        return box.isEmpty() ? "" : "asked";
-    }, "asked\n> inertial sensor_radio_channel S1 30 @10000\n> inertial sensor_radio_channel S2 30 @10000\n"
-       "> inertial transceiver_radio_channel T1 30 @10000\n! Error: Unable to set radio channel of sensor S1\n"
-       "! Error: Unable to set radio channel of dongle T1");
     row("a transceiver's sensors, present or not", {}, [this] {
         script({"inertial sensor_present " + S3});
         return (dialog->get_onlyPresent_sensorList_of_dongle(QString(T2)) + QStringList{"|"}
@@ -833,10 +748,7 @@ void tst_InertialSettingsDlg::channelScan_data()
     const QString done = "|Scanning available channels %p% 10 10 1|";
     const QString command = "\n> norvane inertial scan_transceiver_radio_channels @10000";
     row("fully occupied, 1.0", ok, scan("=1.0"), "hint|16" + done + "grey|green|" + command);
-    row("unanswered", ok, scan(""), "hint|16" + done + "grey|green|" + command + "\n! Could not get activity of dongle: T1");
     row("nearly occupied, 0.99", ok, scan("=0.99"), "hint|" + done + "|green|" + command);
-    row("command refused", {unscanned, "norvane inertial scan_transceiver_radio_channels=norvane busy"}, scan("=1.0"),
-        "hint|| 0 10 0|||hint" + command);
     row("command not sent", {unscanned, "norvane inertial scan_transceiver_radio_channels"}, scan("=1.0"),
         "hint|| 0 10 0|||hint" + command + "\n! Error: Unable to execute scan transceiver channel");
 }

@@ -23,7 +23,6 @@ private slots:
     void init();
     void cleanup();
     void wakeupModesReachTheSensors();
-    void movedTransceiverTakesItsSensors();
     void deletedSensorIsGone();
 
 private:
@@ -105,27 +104,6 @@ void tst_SettingsEndToEnd::wakeupModesReachTheSensors()
     QCOMPARE(ask("inertial sensor_wakeup_mode NRV IMU3C '10235'"), QByteArray("'wm_usb'"));
     QVERIFY(host->messages().join('\n').contains("Error: Unable to reach sensor NRV IMU3 '10233'"));
     startup = host->messages();
-}
-
-void tst_SettingsEndToEnd::movedTransceiverTakesItsSensors()
-{
-    QString shown;
-    open([&](QTableWidget* table) {
-        // Channel 40 in the grid of channels, ten to a row.
-        auto* combo = qobject_cast<QComboBox*>(table->cellWidget(0, 5));
-        auto* grid = qobject_cast<QTableWidget*>(combo->view());
-        combo->showPopup();
-        grid->setCurrentCell(3, 9);
-        QTest::keyClick(grid, Qt::Key_Return);
-        QTRY_COMPARE(ask("inertial transceiver_radio_channel NRV RD2 '70011'"), QByteArray("40"));
-        QCoreApplication::processEvents();
-        for (const QString id : {"70011", "10232", "10231", "70012"})
-            shown += id + ':' + qobject_cast<QComboBox*>(table->cellWidget(row_of(table, id), 5))->currentText() + ' ';
-    });
-    QCOMPARE(ask("inertial sensor_radio_channel NRV IMU3 '10231'") + ask("inertial sensor_radio_channel NRV IMU3 '10232'")
-                 + ask("inertial sensor_radio_channel NRV IMU3 '10234'"), QByteArray("404055"));
-    // Still reached through their transceiver: listed under it as before.
-    QCOMPARE(shown, QString("70011:40 10232:40 10231:40 70012:55 "));
 }
 
 void tst_SettingsEndToEnd::deletedSensorIsGone()

@@ -39,9 +39,6 @@ int read_numbers(int result, const QByteArray& text, int count, T* values)
 
 } // namespace
 
-FakeController::FakeController() = default;
-FakeController::~FakeController() = default;
-
 QList<QByteArray> FakeController::lines() const
 {
     QList<QByteArray> result;

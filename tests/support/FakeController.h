@@ -23,28 +23,12 @@ public:
     enum Operation { SetTimeout, SendCommand, WaitForCompletion, GetString, GetInt, GetDouble, GetBool,
                      GetDoubles, GetInts, SetValue };
 
-    struct Call
-    {
-        Operation operation;
-        QByteArray line;          // empty for SetTimeout and WaitForCompletion
-        bool wait_separately;     // time-out settings in force for this call
-        int timeout_ms;
-        bool timeout_flag;
-    };
-
-    struct Message
-    {
-        QString target;
-        QString source;
-        int type;
-        QString text;
-    };
+    // One call with the time-out settings in force for it; no line for SetTimeout and WaitForCompletion.
+    struct Call { Operation operation; QByteArray line; bool wait_separately; int timeout_ms; bool timeout_flag; };
+    struct Message { QString target; QString source; int type; QString text; };
 
     // Result a scripted line gives when it is not told otherwise.
     static constexpr int NaturalResult = -1000;
-
-    FakeController();
-    ~FakeController() override;
 
     void reply(const QByteArray& line, const QByteArray& answer, int result = NaturalResult)
     { script.insert(line, Script{{answer}, 0, result}); }
@@ -87,12 +71,7 @@ public:
     void unregister_receiver(const char* name, MessageReceiver* receiver) override;
 
 private:
-    struct Script
-    {
-        QList<QByteArray> answers;
-        int next = 0;
-        int result = NaturalResult;
-    };
+    struct Script { QList<QByteArray> answers; int next = 0; int result = NaturalResult; };
 
     // Records the call; its scripted result, and the answer in *text.
     int answer(Operation operation, const QByteArray& line, QByteArray* text);
@@ -106,12 +85,12 @@ private:
     QHash<QString, MessageReceiver*> receivers;
     bool stateful = false;
     bool blocked = false;
-    bool wait_separately = false;
+    bool wait_separately = false;   // the time-out settings in force
     int timeout_ms = 0;
     bool timeout_flag = false;
+    bool pending = false;           // an asynchronous command waits for wait_for_completion
     char* pending_reply = nullptr;
     QByteArray pending_answer;
-    bool pending = false;
     int completion_result = 0;
     long trips = 0;
 };

@@ -27,11 +27,11 @@ TypicalSystem::TypicalSystem()
 
 void TypicalSystem::install(FakeController& fake) const
 {
-    fake.reply("config is_changeable", config_changeable);
-    fake.reply("inertial available", available);
-    fake.reply("inertial warmup", warmup);
-    fake.reply("inertial limit frequency", frequency_limits);
-    fake.reply("inertial frequency", frequency);
+    fake.reply("config is_changeable", "yes");
+    fake.reply("inertial available", "yes");
+    fake.reply("inertial warmup", "no");
+    fake.reply("inertial limit frequency", "1.0 500.0");
+    fake.reply("inertial frequency", "100.0");
     fake.reply("inertial number_of_wakeup_modes", QByteArray::number(wakeup_modes.size()));
     for (int i = 0; i < wakeup_modes.size(); ++i) {
         fake.reply("inertial wakeup_mode" + index('t', i + 1), wakeup_modes.at(i).first);
@@ -43,12 +43,12 @@ void TypicalSystem::install(FakeController& fake) const
         const Transceiver& t = transceivers.at(i);
         const QByteArray& id = t.identity;
         fake.reply("inertial transceiver" + index('d', i + 1), id);
-        fake.reply("inertial transceiver_version " + id, "\"3.1.0\"");
+        const QList<QPair<QByteArray, QByteArray>> answers{{"version", "\"3.1.0\""}, {"present", t.present},
+            {"radio_channel", t.channel}, {"suggested_radio_channel", t.suggested}};
+        for (const auto& answer : answers)
+            fake.reply("inertial transceiver_" + answer.first + ' ' + id, answer.second);
         fake.reply("inertial transceiver_vendor_desc " + id.split(' ').value(0), "\"Norvane\"");
         fake.reply("inertial transceiver_model_desc " + id.left(id.lastIndexOf(' ')), "\"Dongle (USB)\"");
-        fake.reply("inertial transceiver_present " + id, t.present);
-        fake.reply("inertial transceiver_radio_channel " + id, t.channel);
-        fake.reply("inertial transceiver_suggested_radio_channel " + id, t.suggested);
         fake.reply("inertial number_of_transceiver_available_radio_channels " + id,
                    QByteArray::number(t.channels.size()));
         for (int k = 0; k < t.channels.size(); ++k) {
@@ -64,20 +64,15 @@ void TypicalSystem::install(FakeController& fake) const
         const QByteArray& id = s.identity;
         const QByteArray model = id.left(id.lastIndexOf(' '));
         fake.reply("inertial sensor" + index('d', i + 1), id);
-        fake.reply("inertial body_of_sensor " + id, s.body);
-        fake.reply("inertial transceiver_of_sensor " + id, s.transceiver);
+        const QList<QPair<QByteArray, QByteArray>> answers{{"body_of_sensor", s.body},
+            {"transceiver_of_sensor", s.transceiver}, {"sensor_present", s.present}, {"sensor_temperature", "18.0 36.0"},
+            {"sensor_battery", "0.8"}, {"sensor_output_frequency", "100.0"}, {"sensor_handeye", s.handeye},
+            {"sensor_version", "'2.4.1'"}, {"sensor_radio_channel", s.channel}, {"sensor_wakeup_mode", s.mode},
+            {"sensor_sleep_timeout", "0"}, {"sensor_has_storage", "yes"}};
+        for (const auto& answer : answers)
+            fake.reply("inertial " + answer.first + ' ' + id, answer.second);
         fake.reply("inertial sensor_vendor_desc " + id.split(' ').value(0), "\"Norvane\"");
         fake.reply("inertial sensor_model_desc " + model, "\"" + model.mid(4) + " sensor\"");
-        fake.reply("inertial sensor_present " + id, s.present);
-        fake.reply("inertial sensor_temperature " + id, "18.0 36.0");
-        fake.reply("inertial sensor_battery " + id, "0.8");
-        fake.reply("inertial sensor_output_frequency " + id, "100.0");
-        fake.reply("inertial sensor_handeye " + id, s.handeye);
-        fake.reply("inertial sensor_version " + id, "'2.4.1'");
-        fake.reply("inertial sensor_radio_channel " + id, s.channel);
-        fake.reply("inertial sensor_wakeup_mode " + id, s.mode);
-        fake.reply("inertial sensor_sleep_timeout " + id, "0");
-        fake.reply("inertial sensor_has_storage " + id, "yes");
         for (const auto& mode : wakeup_modes)
             fake.reply("inertial sensor_wakeup_mode_available " + id + ' ' + mode.first,
                        s.modes.contains(mode.first) ? "yes" : "no");

@@ -12,8 +12,9 @@ class FakeController;
 // answered. Two transceivers on channels 12 and 20; five sensors: S0002 and
 // S0001 (on body 1) on the first, S0003 (on body 2, tap mode) and S0005
 // (asleep, tap mode) on the second, C0004 on cable; six bodies of which 3, 5
-// and 6 are neither calibrated nor carry a sensor. A test changes the
-// description before install() or scripts single lines after it.
+// and 6 are neither calibrated nor carry a sensor; unlocked, inertial
+// tracking available, no warm-up, frequency 100 Hz within 1 to 500. A test
+// changes the description before install() or scripts single lines after it.
 class TypicalSystem
 {
 public:
@@ -40,11 +41,6 @@ public:
 
     TypicalSystem();
 
-    QByteArray config_changeable = "yes";
-    QByteArray available = "yes";
-    QByteArray warmup = "no";
-    QByteArray frequency_limits = "1.0 500.0";
-    QByteArray frequency = "100.0";
     QList<QPair<QByteArray, QByteArray>> wakeup_modes = {
         {"'wm_usb'", "'Wake on USB'"}, {"'wm_tap'", "'Wake on tap'"}, {"'wm_radio'", "'Wake by radio'"}};
     QList<Transceiver> transceivers;
