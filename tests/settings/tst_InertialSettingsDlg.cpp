@@ -508,6 +508,7 @@ void tst_InertialSettingsDlg::refresh_data()
         };
     };
     row("keys 3, then 1", {}, keys(Qt::Key_3, Qt::Key_1), "20 ");
+    row("F3 on the last page wraps", {}, keys(Qt::Key_3, Qt::Key_F3), "20 ");
     row("Escape closes", {}, keys(Qt::Key_2, Qt::Key_Escape), "1-1 ");
 }
 
