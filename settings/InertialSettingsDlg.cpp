@@ -225,6 +225,13 @@ int InertialSettingsDlg::update_and_exec()
     ui->progressBar->setEnabled(false);
     ui->progressBar->setFormat(QString());
     ui->label_error3->hide();
+    // Whatever an earlier opening showed, no warm-up is shown running until
+    // this one finds it so, and no sensor or mode of a controller that may
+    // since have been exchanged stays on show.
+    ui->pushButton_warmup->setText(tr("Warmup start"));
+    ui->tableWidget->setRowCount(0);
+    ui->comboBox_mode->clear();
+    all_wakeup_modes.clear();
     transceiver_present = false;
     scan_allowed = false;
     name_editing = false;
@@ -291,7 +298,6 @@ int InertialSettingsDlg::update_and_exec()
             sensor_data_timer->start();
         } else {
             not_present_timer->start();
-            ui->pushButton_warmup->setText(tr("Warmup start"));
         }
     }
     disable_body_page();

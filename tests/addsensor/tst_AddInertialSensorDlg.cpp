@@ -2,7 +2,6 @@
 
 #include <QCheckBox>
 #include <QComboBox>
-#include <QHeaderView>
 #include <QLabel>
 #include <QMessageBox>
 #include <QProgressBar>
@@ -13,40 +12,23 @@
 
 #include "FakeController.h"
 #include "ModalDialogHelper.h"
+#include "TypicalSystem.h"
 #include "addsensor/AddInertialSensorDlg.h"
 #include "module/BackendVersions.h"
 #include "settings/ChannelComboBox.h"
 
 namespace {
 
-// What the label showed whenever it was painted: the scan repaints it
-// before each blocking command, so this is what the user saw meanwhile.
-class PaintedTexts : public QObject
-{
-public:
-    explicit PaintedTexts(QLabel* label) : label(label) { label->installEventFilter(this); }
-    QStringList texts;
-
-protected:
-    bool eventFilter(QObject* watched, QEvent* event) override
-    {
-        if (watched == label && event->type() == QEvent::Paint
-            && (texts.isEmpty() || texts.last() != label->text()))
-            texts << label->text();
-        return false;
-    }
-
-private:
-    QLabel* label;
-};
-
-QByteArray dongleLine(int channel)
-{
-    return "inertial scan_transceiver_channel t01 nv dongle 'T1' " + QByteArray::number(channel);
-}
+const QByteArray Scanned = "inertial number_of_scanned_sensors";
+const QByteArray Add7 = "norvane inertial add_sensor NRV IMU9 'S0007' 35";
+const QByteArray Add8 = "norvane inertial add_sensor NRV IMU6 'C0008' 35";
 
 } // namespace
 
+// The add sensor dialog against the typical system, whose first transceiver
+// hears two new sensors (S0007, C0008) and a paired one (S0001) on channel
+// 35: scanning in each mode one channel a tick, what stops a scan, and
+// adding the accepted sensors to free bodies.
 class tst_AddInertialSensorDlg : public QObject
 {
     Q_OBJECT
@@ -54,54 +36,37 @@ class tst_AddInertialSensorDlg : public QObject
 private slots:
     void init();
     void cleanup();
-    void form();
     void scanModes_data();
     void scanModes();
-    void usbScanWithoutTransceiver();
-    void allChannels();
-    void defaultChannelsFindSensors();
-    void scanCommandResult_data();
-    void scanCommandResult();
+    void usbScanAsksInOrder();
+    void scan_data();
+    void scan();
     void scanFailures_data();
     void scanFailures();
-    void pollTimesOut();
-    void blockedTickWaits();
-    void knownSensorIsInert();
+    void haltedScanAndReopening();
     void acceptAllAndClicks();
-    void singleChannel();
-    void singleChannelNotChosen();
-    void cancelSeenAtNextTick();
-    void closeAndEscapeDuringScan();
-    void f3Scans();
-    void applyPlacesSensors();
-    void applyStorage_data();
-    void applyStorage();
-    void applyFailures_data();
-    void applyFailures();
-    void absurdCounts();
+    void apply_data();
+    void apply();
 
 private:
-    template <class T>
-    T* w(const char* name) const
-    {
-        T* widget = dlg->findChild<T*>(QLatin1String(name));
-        Q_ASSERT(widget);
-        return widget;
-    }
-    // Opens the dialog and runs `steps` inside its modal loop; Exit ends it.
+    // Opens the dialog, runs `steps` inside it and leaves by Exit.
     void open(const std::function<void()>& steps);
-    void chooseMode(const QString& text);
-    void tick();
-    // Ticks until the scan is over (Scan usable again); returns the ticks.
-    int finish();
-    void scriptController(int transceivers);
-    void scriptScanned(const QList<QByteArray>& sensors);
-    QList<QByteArray> linesAfter(const QByteArray& first) const;
+    template <class T = QWidget>
+    T* w(const char* name) const { return dialog->findChild<T*>(QLatin1String(name)); }
+    // Starts a scan in `mode`, ticks until it is over (Cancel after `cancel`
+    // ticks); returns whether Cancel was usable, then the progress after each tick.
+    QList<int> scan(const QString& mode, int cancel = -1);
+    // The label, the progress and whether Scan, Exit and the modes are usable.
+    QString state() const;
+    // The found sensors as "id vendor model channel accept" rows.
+    QStringList rows() const;
+    void answer_box(int button);
 
     FakeController* fake = nullptr;
     BackendVersions versions;
     QDialog* parent = nullptr;
-    AddInertialSensorDlg* dlg = nullptr;
+    AddInertialSensorDlg* dialog = nullptr;
+    QString box;
 };
 
 void tst_AddInertialSensorDlg::init()
@@ -110,17 +75,27 @@ void tst_AddInertialSensorDlg::init()
     versions = BackendVersions();
     versions.major = 1;
     versions.minor = 21;
+    TypicalSystem().install(*fake);
+    fake->set_stateful(true);
+    for (const QByteArray setting : {"inertial number_of_scan_channels 1", "inertial number_of_scan_channels 0",
+                                     "inertial scan_transceiver_channel t01 usb"})
+        fake->accept(setting);
+    for (int channel = 2; channel <= 81; ++channel)
+        fake->accept("inertial scan_transceiver_channel t01 NRV Dongle 'T1001' " + QByteArray::number(channel));
+    fake->reply("norvane inertial scan_sensors", "norvane ok");
+    fake->replies(Scanned, {"-1", "3"});
+    fake->reply("inertial scanned_sensor d01", "NRV IMU9 'S0007' 35");
+    fake->reply("inertial scanned_sensor d02", "NRV IMU9 'S0001' 35");
+    fake->reply("inertial scanned_sensor d03", "NRV IMU6 'C0008' 35");
+    box.clear();
     parent = new QDialog;
-    dlg = new AddInertialSensorDlg(fake, parent, &versions);
+    dialog = new AddInertialSensorDlg(fake, parent, &versions);
 }
 
 void tst_AddInertialSensorDlg::cleanup()
 {
     delete parent;
-    parent = nullptr;
-    dlg = nullptr;
     delete fake;
-    fake = nullptr;
     QCOMPARE(ModalDialogHelper::pending(), 0);
     ModalDialogHelper::clear_pending();
     QCOMPARE(ModalDialogHelper::leaked_windows(), QStringList());
@@ -130,803 +105,364 @@ void tst_AddInertialSensorDlg::open(const std::function<void()>& steps)
 {
     ModalDialogHelper::when_active("AddInertialSensorDlg", [this, steps](QWidget*) {
         steps();
-        if (w<QPushButton>("pushButton_exit")->isEnabled())
-            w<QPushButton>("pushButton_exit")->click();
-        else
-            dlg->hide();   // a test that left a scan halted
+        w<QPushButton>("pushButton_exit")->isEnabled() ? w<QPushButton>("pushButton_exit")->click() : dialog->hide();
     });
-    dlg->update_and_exec();
+    dialog->update_and_exec();
 }
 
-void tst_AddInertialSensorDlg::chooseMode(const QString& text)
+QList<int> tst_AddInertialSensorDlg::scan(const QString& mode, int cancel)
 {
-    QComboBox* modes = w<QComboBox>("comboBox_scanMode");
-    const int index = modes->findText(text);
-    QVERIFY2(index >= 0, qPrintable(text));
-    modes->setCurrentIndex(index);
-}
-
-void tst_AddInertialSensorDlg::tick()
-{
-    QMetaObject::invokeMethod(dlg, "scan_channels", Qt::DirectConnection);
-}
-
-int tst_AddInertialSensorDlg::finish()
-{
-    int ticks = 0;
-    while (!w<QPushButton>("pushButton_scan")->isEnabled() && ticks < 500) {
-        tick();
-        ++ticks;
+    auto* modes = w<QComboBox>("comboBox_scanMode");
+    modes->setCurrentIndex(modes->findText(mode));
+    w<QPushButton>("pushButton_scan")->click();
+    QList<int> progress{w("pushButton_cancel")->isEnabled()};
+    for (int tick = 0; !w("pushButton_scan")->isEnabled() && tick < 100; ++tick) {
+        if (tick == cancel)
+            w<QPushButton>("pushButton_cancel")->click();
+        QMetaObject::invokeMethod(dialog, "scan_channels");
+        progress << w<QProgressBar>("progressBar_overall")->value();
     }
-    return ticks;
+    return progress;
 }
 
-void tst_AddInertialSensorDlg::scriptController(int transceivers)
+QString tst_AddInertialSensorDlg::state() const
 {
-    fake->reply("inertial number_of_transceivers", QByteArray::number(transceivers));
-    fake->reply("inertial transceiver d01", "nv dongle 'T1'");
-    fake->reply("inertial number_of_sensors", "1");
-    fake->reply("inertial sensor d01", "nv imu '1001'");
-    fake->accept("inertial number_of_scan_channels 1");
-    fake->accept("inertial number_of_scan_channels 0");
-    fake->accept("inertial scan_transceiver_channel t01 usb");
-    for (int channel = 2; channel <= 81; ++channel)
-        fake->accept(dongleLine(channel));
-    fake->reply("norvane inertial scan_sensors", "norvane ok");
-    fake->replies("inertial number_of_scanned_sensors", {"-1", "0"});
-    fake->reply("inertial sensor_model_desc nv imu", "\"Motion\" Sensor");
-    fake->reply("inertial sensor_vendor_desc nv", "\"Norvane\"");
+    return QString("%1, %2%, %3%4%5").arg(w<QLabel>("label_channel")->text()).arg(w<QProgressBar>("progressBar_overall")
+        ->value()).arg(w("pushButton_scan")->isEnabled()).arg(w("pushButton_exit")->isEnabled())
+        .arg(w("comboBox_scanMode")->isEnabled());
 }
 
-void tst_AddInertialSensorDlg::scriptScanned(const QList<QByteArray>& sensors)
+QStringList tst_AddInertialSensorDlg::rows() const
 {
-    fake->replies("inertial number_of_scanned_sensors", {"-1", "-1", QByteArray::number(sensors.size())});
-    for (int i = 0; i < sensors.size(); ++i)
-        fake->reply("inertial scanned_sensor d" + QByteArray::number(i + 1).rightJustified(2, '0'),
-                    sensors.at(i));
+    QStringList result;
+    auto* table = w<QTableWidget>("tableWidget");
+    for (int row = 0; row < table->rowCount(); ++row) {
+        QStringList cells;
+        for (int column = 0; column < 4; ++column)
+            cells << table->item(row, column)->text();
+        const QTableWidgetItem* accept = table->item(row, 4);
+        result << cells.join(' ') + (accept->flags() == Qt::NoItemFlags ? " -" : accept->checkState() ? " x" : " o");
+    }
+    return result;
 }
 
-QList<QByteArray> tst_AddInertialSensorDlg::linesAfter(const QByteArray& first) const
+void tst_AddInertialSensorDlg::answer_box(int button)
 {
-    const QList<QByteArray> all = fake->lines();
-    const int at = all.indexOf(first);
-    return at < 0 ? QList<QByteArray>() : all.mid(at);
-}
-
-void tst_AddInertialSensorDlg::form()
-{
-    QCOMPARE(dlg->windowTitle(), QString("Add Sensor(s)"));
-    QCOMPARE(dlg->whatsThis(), QString("Adds sensors to your system"));
-    QVERIFY(!dlg->windowIcon().isNull());
-    QTableWidget* table = w<QTableWidget>("tableWidget");
-    QStringList headers;
-    for (int c = 0; c < table->columnCount(); ++c)
-        headers << table->horizontalHeaderItem(c)->text();
-    QCOMPARE(headers, QStringList({"Device ID", "Vendor", "Model", "Channel", "Accept"}));
-    QVERIFY(table->isColumnHidden(1));
-    QCOMPARE(table->selectionBehavior(), QAbstractItemView::SelectRows);
-    QCOMPARE(table->horizontalHeader()->sectionResizeMode(2), QHeaderView::Stretch);
-    QCOMPARE(table->horizontalHeader()->sectionResizeMode(4), QHeaderView::Fixed);
-    QCOMPARE(w<QProgressBar>("progressBar_overall")->format(), QString("scanning channels %p%"));
-    QCOMPARE(w<ChannelComboBox>("comboBox_channel")->minimumChannel(), 2);
-    QCOMPARE(w<ChannelComboBox>("comboBox_channel")->maximumChannel(), 81);
-    QVERIFY(fake->lines().isEmpty());   // building the dialog asks nothing
+    ModalDialogHelper::when_active("QMessageBox", [this, button](QWidget* w) {
+        box = w->windowTitle() + ": " + qobject_cast<QMessageBox*>(w)->text();
+        ModalDialogHelper::press(w, button);
+    });
 }
 
 void tst_AddInertialSensorDlg::scanModes_data()
 {
-    QTest::addColumn<QByteArray>("transceivers");
-    QTest::addColumn<QStringList>("modes");
+    QTest::addColumn<QByteArray>("transceivers");   // empty: the query fails
+    QTest::addColumn<QString>("modes");
 
-    const QStringList radio{"default channels", "single channel", "all channels", "USB"};
-    QTest::newRow("one transceiver") << QByteArray("1") << radio;
-    QTest::newRow("two transceivers") << QByteArray("2") << radio;
-    QTest::newRow("none") << QByteArray("0") << QStringList{"USB"};
-    QTest::newRow("query fails") << QByteArray() << QStringList{"USB"};
-    QTest::newRow("negative count") << QByteArray("-3") << QStringList{"USB"};
+    QTest::newRow("one transceiver") << QByteArray("1") << "default channels, single channel, all channels, USB";
+    QTest::newRow("none") << QByteArray("0") << "USB";
+    QTest::newRow("query fails") << QByteArray() << "USB";
 }
 
 void tst_AddInertialSensorDlg::scanModes()
 {
     QFETCH(QByteArray, transceivers);
-    QFETCH(QStringList, modes);
+    QFETCH(QString, modes);
 
-    if (transceivers.isEmpty())
-        fake->fail("inertial number_of_transceivers");
-    else
-        fake->reply("inertial number_of_transceivers", transceivers);
+    transceivers.isEmpty() ? fake->fail("inertial number_of_transceivers")
+                           : fake->reply("inertial number_of_transceivers", transceivers);
     QStringList seen;
-    QString current;
-    bool chooserEnabled = true;
     open([&] {
-        QComboBox* combo = w<QComboBox>("comboBox_scanMode");
+        auto* combo = w<QComboBox>("comboBox_scanMode");
         for (int i = 0; i < combo->count(); ++i)
             seen << combo->itemText(i);
-        current = combo->currentText();
-        chooserEnabled = w<ChannelComboBox>("comboBox_channel")->isEnabled();
-        QVERIFY(!w<QPushButton>("pushButton_cancel")->isEnabled());
-        QVERIFY(!w<QPushButton>("pushButton_apply")->isEnabled());
-        QCOMPARE(dlg->focusWidget(), w<QPushButton>("pushButton_scan"));
+        seen << combo->currentText() << QString("%1%2%3%4").arg(w("comboBox_channel")->isEnabled())
+                     .arg(w("pushButton_cancel")->isEnabled()).arg(w("pushButton_apply")->isEnabled())
+                     .arg(dialog->focusWidget() == w("pushButton_scan"));
     });
-    QCOMPARE(seen, modes);
-    QCOMPARE(current, QString("USB"));
-    QVERIFY(!chooserEnabled);
+    // USB, always there, is the one chosen; nothing to cancel or apply yet.
+    QCOMPARE(seen.join(", "), modes + ", USB, 0001");
     QCOMPARE(fake->lines(), QList<QByteArray>{"inertial number_of_transceivers"});
-    QVERIFY(fake->messages().isEmpty());
+    QCOMPARE(fake->message_texts(), QStringList());
 }
 
-void tst_AddInertialSensorDlg::usbScanWithoutTransceiver()
+void tst_AddInertialSensorDlg::usbScanAsksInOrder()
 {
-    scriptController(0);
-    scriptScanned({"nv imu '2002' 0"});
-    PaintedTexts painted(w<QLabel>("label_channel"));
-    bool cancelDuringScan = true;
-    int ticks = 0;
+    QString during;
     open([&] {
-        QVERIFY(QTest::qWaitForWindowExposed(dlg));
+        QVERIFY(QTest::qWaitForWindowExposed(dialog));
+        fake->clear_log();
         w<QPushButton>("pushButton_scan")->click();
-        cancelDuringScan = w<QPushButton>("pushButton_cancel")->isEnabled();
-        QVERIFY(!w<QPushButton>("pushButton_exit")->isEnabled());
-        QVERIFY(!w<QComboBox>("comboBox_scanMode")->isEnabled());
-        ticks = finish();
+        QCoreApplication::processEvents();   // the first channel waits for the timer's tick
+        during = state() + QString::number(w("pushButton_cancel")->isEnabled());
+        QMetaObject::invokeMethod(dialog, "scan_channels");
     });
-
-    QVERIFY(!cancelDuringScan);
-    QCOMPARE(ticks, 1);
-    QVERIFY2(painted.texts.contains("Scanning USB..."), qPrintable(painted.texts.join('|')));
-    QCOMPARE(w<QLabel>("label_channel")->text(), QString("Scanning USB done"));
-    QCOMPARE(w<QProgressBar>("progressBar_overall")->value(), 100);
-    QCOMPARE(fake->lines(), QList<QByteArray>({
-        "inertial number_of_transceivers",
-        "inertial number_of_sensors",
-        "inertial sensor d01",
-        "inertial number_of_scan_channels 1",
-        "inertial scan_transceiver_channel t01 usb",
-        "norvane inertial scan_sensors",
-        "inertial number_of_scanned_sensors",
-        "inertial number_of_scanned_sensors",
-        "inertial number_of_scanned_sensors",
-        "inertial scanned_sensor d01",
-        "inertial sensor_model_desc nv imu",
-        "inertial sensor_vendor_desc nv",
-        "inertial number_of_scan_channels 0",
-    }));
-    // The scan command alone goes out to be waited for separately.
-    const QList<FakeController::Call>& calls = fake->calls();
-    int command = -1;
-    for (int i = 0; i < calls.size(); ++i)
-        if (calls.at(i).operation == FakeController::SendCommand)
-            command = i;
-    QVERIFY(command > 0);
-    QCOMPARE(calls.at(command).wait_separately, true);
-    QCOMPARE(calls.at(command).timeout_ms, 20000);
-    QCOMPARE(calls.at(command).timeout_flag, true);
-    QCOMPARE(calls.at(command + 1).operation, FakeController::WaitForCompletion);
-
-    QTableWidget* table = w<QTableWidget>("tableWidget");
-    QCOMPARE(table->rowCount(), 1);
-    QCOMPARE(table->item(0, 0)->text(), QString("2002"));
-    QCOMPARE(table->item(0, 0)->textAlignment(), int(Qt::AlignRight | Qt::AlignVCenter));
-    QCOMPARE(table->item(0, 1)->text(), QString("Norvane"));
-    QCOMPARE(table->item(0, 2)->text(), QString("Motion Sensor"));
-    QCOMPARE(table->item(0, 3)->text(), QString("USB"));
-    QCOMPARE(table->item(0, 4)->checkState(), Qt::Unchecked);
-    QCOMPARE(table->rowHeight(0), 20);
-    QVERIFY(!w<QPushButton>("pushButton_apply")->isEnabled());   // nothing accepted yet
-    QVERIFY(fake->unexpected().isEmpty());
-    QVERIFY(fake->messages().isEmpty());
+    QCOMPARE(during, QString(", 0%, 0000"));
+    QCOMPARE(fake->lines(), (QList<QByteArray>{"inertial number_of_sensors", "inertial sensor d01",
+        "inertial sensor d02", "inertial sensor d03", "inertial sensor d04", "inertial sensor d05",
+        "inertial number_of_scan_channels 1", "inertial scan_transceiver_channel t01 usb",
+        "norvane inertial scan_sensors", Scanned, Scanned, "inertial scanned_sensor d01",
+        "inertial sensor_model_desc NRV IMU9", "inertial sensor_vendor_desc NRV", "inertial scanned_sensor d02",
+        "inertial sensor_model_desc NRV IMU9", "inertial sensor_vendor_desc NRV", "inertial scanned_sensor d03",
+        "inertial sensor_model_desc NRV IMU6", "inertial sensor_vendor_desc NRV", "inertial number_of_scan_channels 0"}));
+    // The scan alone goes out to be waited for separately, under a long time-out.
+    const FakeController::Call& command = fake->calls().at(9);
+    QVERIFY(command.wait_separately && command.timeout_ms == 20000 && command.timeout_flag);
+    QCOMPARE(fake->calls().at(10).operation, FakeController::WaitForCompletion);
+    // A paired sensor is listed but cannot be accepted.
+    QCOMPARE(rows(), (QStringList{"S0007 Norvane IMU9 sensor 35 o", "S0001 Norvane IMU9 sensor 35 -",
+                                  "C0008 Norvane IMU6 sensor 35 o"}));
+    QCOMPARE(w<QTableWidget>("tableWidget")->rowHeight(0), 20);
+    QCOMPARE(state(), QString("Scanning USB done, 100%, 111"));
+    QCOMPARE(fake->message_texts(), QStringList());
 }
 
-void tst_AddInertialSensorDlg::allChannels()
+void tst_AddInertialSensorDlg::scan_data()
 {
-    scriptController(1);
-    QList<int> progress;
-    QList<int> commands;
-    bool cancelDuringScan = false;
-    bool exitDuringScan = true;
+    QTest::addColumn<QString>("mode");
+    QTest::addColumn<int>("cancel");          // after this many ticks, -1: never
+    QTest::addColumn<QString>("scanned");     // channels, in order (the first and last three of many)
+    QTest::addColumn<QString>("progress");    // after each tick (the first and last three of many)
+    QTest::addColumn<QString>("end");         // state(), and whether Cancel was usable during the scan
+
+    QTest::newRow("default channels") << "default channels" << -1 << "35 55" << "50 100"
+                                      << "Scanning channels done, 100%, 111 1";
+    QTest::newRow("all channels, one a tick") << "all channels" << -1 << "2 3 4 79 80 81" << "1 3 4 98 99 100"
+                                              << "Scanning channels done, 100%, 111 1";
+    QTest::newRow("single channel 47") << "single channel" << -1 << "47" << "100" << "Scanning channel done, 100%, 111 0";
+    QTest::newRow("cancelled: seen at the next tick") << "all channels" << 2 << "2 3" << "1 3 0"
+                                                      << "Scanning channels aborted, 0%, 111 1";
+}
+
+void tst_AddInertialSensorDlg::scan()
+{
+    QFETCH(QString, mode);
+    QFETCH(int, cancel);
+    QFETCH(QString, scanned);
+    QFETCH(QString, progress);
+    QFETCH(QString, end);
+
+    fake->replies(Scanned, {"-1", "0"});
+    QList<int> ticks;
     open([&] {
-        chooseMode("all channels");
-        w<QPushButton>("pushButton_scan")->click();
-        cancelDuringScan = w<QPushButton>("pushButton_cancel")->isEnabled();
-        exitDuringScan = w<QPushButton>("pushButton_exit")->isEnabled();
-        for (int k = 1; k <= 80; ++k) {
-            tick();
-            progress << w<QProgressBar>("progressBar_overall")->value();
-            commands << fake->count("norvane inertial scan_sensors");
+        auto* modes = w<QComboBox>("comboBox_scanMode");
+        modes->setCurrentIndex(modes->findText(mode));
+        auto* pick = w<ChannelComboBox>("comboBox_channel");
+        const bool chooser = pick->isEnabled();
+        if (chooser) {   // the user picks 47 in the grid
+            QCOMPARE(pick->currentText(), QString("2"));
+            pick->showPopup();
+            pick->table()->setCurrentCell(4, 6);
+            QTest::keyClick(pick->table(), Qt::Key_Return);
         }
+        ticks = scan(mode, cancel);
+        QCOMPARE(pick->isEnabled(), chooser);   // given back as it was
     });
-
-    QVERIFY(cancelDuringScan);
-    QVERIFY(!exitDuringScan);
-    QList<QByteArray> scanned = fake->lines(FakeController::SetValue);
-    scanned.erase(std::remove_if(scanned.begin(), scanned.end(),
-                                 [](const QByteArray& line) { return !line.startsWith("inertial scan_transceiver"); }),
-                  scanned.end());
-    QCOMPARE(scanned.size(), 80);
-    QCOMPARE(scanned.first(), dongleLine(2));
-    QCOMPARE(scanned.at(39), dongleLine(41));
-    QCOMPARE(scanned.last(), dongleLine(81));
-    // One channel per tick.
-    QCOMPARE(commands.first(), 1);
-    QCOMPARE(commands.at(39), 40);
-    QCOMPARE(commands.last(), 80);
-    // int(100 / 80 * k + 0.5)
-    QCOMPARE(progress.at(0), 1);
-    QCOMPARE(progress.at(1), 3);
-    QCOMPARE(progress.at(2), 4);
-    QCOMPARE(progress.at(39), 50);
-    QCOMPARE(progress.at(78), 99);
-    QCOMPARE(progress.at(79), 100);
-    QCOMPARE(w<QLabel>("label_channel")->text(), QString("Scanning channels done"));
+    const QString cancellable = QString::number(ticks.takeFirst());
+    auto shorten = [](QStringList list) { return list.size() > 6 ? list.mid(0, 3) + list.mid(list.size() - 3) : list; };
+    QStringList channels;
+    for (const QByteArray& line : fake->lines(FakeController::SetValue))
+        if (line.startsWith("inertial scan_transceiver_channel"))
+            channels << line.mid(line.lastIndexOf(' ') + 1);
+    QStringList values;
+    for (int value : ticks)
+        values << QString::number(value);
+    QCOMPARE(shorten(channels).join(' '), scanned);
+    QCOMPARE(shorten(values).join(' '), progress);
+    QCOMPARE(state() + ' ' + cancellable, end);
     QCOMPARE(fake->count("inertial transceiver d01"), 1);
-    QVERIFY(fake->unexpected().isEmpty());
-}
-
-void tst_AddInertialSensorDlg::defaultChannelsFindSensors()
-{
-    scriptController(1);
-    fake->replies("inertial number_of_scanned_sensors", {"-1", "1", "-1", "3"});
-    fake->replies("inertial scanned_sensor d01", {"nv imu '2002' 35", "nv imu '2003' 55"});
-    fake->reply("inertial scanned_sensor d02", "nv imu '2004' 55");
-    fake->reply("inertial scanned_sensor d03", "nv imu '2002' 55");   // heard again: listed once
-    open([&] {
-        chooseMode("default channels");
-        w<QPushButton>("pushButton_scan")->click();
-        QCOMPARE(finish(), 2);
-    });
-
-    QCOMPARE(fake->count(dongleLine(35)), 1);
-    QCOMPARE(fake->count(dongleLine(55)), 1);
-    QCOMPARE(fake->count("inertial scan_transceiver_channel t01 usb"), 0);
-    QTableWidget* table = w<QTableWidget>("tableWidget");
-    QCOMPARE(table->rowCount(), 3);
-    QCOMPARE(table->item(0, 0)->text(), QString("2002"));
-    QCOMPARE(table->item(0, 3)->text(), QString("35"));
-    QCOMPARE(table->item(2, 0)->text(), QString("2004"));
-    QCOMPARE(table->item(2, 3)->text(), QString("55"));
-    QCOMPARE(w<QLabel>("label_channel")->text(), QString("Scanning channels done"));
-    QVERIFY(fake->unexpected().isEmpty());
-}
-
-void tst_AddInertialSensorDlg::scanCommandResult_data()
-{
-    QTest::addColumn<int>("sendResult");          // FakeController::NaturalResult: sent, answer pending
-    QTest::addColumn<int>("completion");
-    QTest::addColumn<QByteArray>("answer");
-    QTest::addColumn<bool>("waited");
-    QTest::addColumn<QStringList>("messages");
-    QTest::addColumn<QByteArray>("after");         // the line after the scan command
-
-    const QStringList failed{"Error: Unable to scan sensors"};
-    QTest::newRow("1, then completed") << int(FakeController::NaturalResult) << 0 << QByteArray("norvane ok")
-                                       << true << QStringList() << QByteArray("inertial number_of_scanned_sensors");
-    QTest::newRow("0 is a failure here") << 0 << 0 << QByteArray("norvane ok") << false << failed << QByteArray();
-    QTest::newRow("2 is a failure") << 2 << 0 << QByteArray("norvane ok") << false << failed << QByteArray();
-    QTest::newRow("completion fails") << int(FakeController::NaturalResult) << 4 << QByteArray("norvane ok")
-                                      << true << failed << QByteArray();
-    QTest::newRow("answer not ok") << int(FakeController::NaturalResult) << 0 << QByteArray("norvane ok ")
-                                   << true << QStringList() << QByteArray("inertial number_of_scan_channels 0");
-}
-
-void tst_AddInertialSensorDlg::scanCommandResult()
-{
-    QFETCH(int, sendResult);
-    QFETCH(int, completion);
-    QFETCH(QByteArray, answer);
-    QFETCH(bool, waited);
-    QFETCH(QStringList, messages);
-    QFETCH(QByteArray, after);
-
-    scriptController(0);
-    fake->reply("norvane inertial scan_sensors", answer, sendResult);
-    fake->set_completion_result(completion);
-    open([&] {
-        w<QPushButton>("pushButton_scan")->click();
-        QCOMPARE(finish(), 1);
-    });
-
-    const QList<FakeController::Call>& calls = fake->calls();
-    bool sawWait = false;
-    for (const FakeController::Call& call : calls)
-        sawWait = sawWait || call.operation == FakeController::WaitForCompletion;
-    QCOMPARE(sawWait, waited);
-    QCOMPARE(fake->message_texts(), messages);
-    const QList<QByteArray> rest = linesAfter("norvane inertial scan_sensors");
-    QCOMPARE(rest.value(1), after);
-    if (after != "inertial number_of_scanned_sensors")
-        QCOMPARE(rest.size(), after.isEmpty() ? 1 : 2);
-    // An error stop still ends in the "done" words: the message told the user.
-    QCOMPARE(w<QLabel>("label_channel")->text(), QString("Scanning USB done"));
-    QCOMPARE(w<QProgressBar>("progressBar_overall")->value(), 100);
-    QVERIFY(w<QPushButton>("pushButton_scan")->isEnabled());
+    QCOMPARE(fake->message_texts(), QStringList());
 }
 
 void tst_AddInertialSensorDlg::scanFailures_data()
 {
-    QTest::addColumn<QString>("mode");
-    QTest::addColumn<QByteArray>("failing");
-    QTest::addColumn<QString>("message");
+    QTest::addColumn<QByteArray>("change");   // "LINE" fails, "LINE=ANSWER" answers so
+    QTest::addColumn<QString>("messages");
     QTest::addColumn<QByteArray>("last");     // the last line sent
     QTest::addColumn<int>("rows");
-    QTest::addColumn<int>("scans");   // scan commands sent
 
-    QTest::newRow("sensor count") << "USB" << QByteArray("inertial number_of_sensors")
-                                  << "Error: Unable to get numbers of sensor"
-                                  << QByteArray("inertial number_of_scan_channels 0") << 1 << 1;
-    QTest::newRow("known sensor") << "USB" << QByteArray("inertial sensor d01")
-                                  << "Error: Unable to get informations of sensor"
-                                  << QByteArray("inertial number_of_scan_channels 0") << 1 << 1;
-    QTest::newRow("scan channel count") << "USB" << QByteArray("inertial number_of_scan_channels 1")
-                                        << "Error: Unable to set channels to scan"
-                                        << QByteArray("inertial number_of_scan_channels 1") << 0 << 0;
-    QTest::newRow("usb scan setting") << "USB" << QByteArray("inertial scan_transceiver_channel t01 usb")
-                                      << "Error: Unable to scan channel of dongle 01"
-                                      << QByteArray("inertial scan_transceiver_channel t01 usb") << 0 << 0;
-    QTest::newRow("channel scan setting") << "all channels" << dongleLine(2)
-                                          << "Error: Unable to scan channel of dongle 01" << dongleLine(2) << 0 << 0;
-    QTest::newRow("scanned count") << "USB" << QByteArray("inertial number_of_scanned_sensors")
-                                   << "Error: Unable to get numbers of sensors to scan"
-                                   << QByteArray("inertial number_of_scanned_sensors") << 0 << 1;
-    QTest::newRow("scanned sensor") << "USB" << QByteArray("inertial scanned_sensor d01")
-                                    << "Error: Unable to get informations of sensor to add"
-                                    << QByteArray("inertial number_of_scan_channels 0") << 0 << 1;
-    QTest::newRow("model description") << "USB" << QByteArray("inertial sensor_model_desc nv imu")
-                                       << "Error: Unable to get description of sensor to add"
-                                       << QByteArray("inertial number_of_scan_channels 0") << 0 << 1;
-    QTest::newRow("vendor description") << "USB" << QByteArray("inertial sensor_vendor_desc nv")
-                                        << "Error: Unable to get vendor description of sensor to add"
-                                        << QByteArray("inertial number_of_scan_channels 0") << 0 << 1;
-    QTest::newRow("reset of the scan count goes on") << "default channels" << QByteArray("inertial number_of_scan_channels 0")
-                                                     << "Error: Unable to set channels to scan"
-                                                     << QByteArray("inertial number_of_scan_channels 0") << 1 << 2;
+    const QByteArray reset = "inertial number_of_scan_channels 0";
+    QTest::newRow("sensor count") << QByteArray("inertial number_of_sensors") << "Error: Unable to get numbers of sensor"
+                                  << reset << 3;
+    QTest::newRow("scan slots") << QByteArray("inertial number_of_scan_channels 1") << "Error: Unable to set channels "
+                                   "to scan" << QByteArray("inertial number_of_scan_channels 1") << 0;
+    QTest::newRow("usb slot") << QByteArray("inertial scan_transceiver_channel t01 usb") << "Error: Unable to scan channel "
+                                 "of dongle 01" << QByteArray("inertial scan_transceiver_channel t01 usb") << 0;
+    QTest::newRow("scan not sent") << QByteArray("norvane inertial scan_sensors") << "Error: Unable to scan sensors"
+                                   << QByteArray("norvane inertial scan_sensors") << 0;
+    QTest::newRow("scan refused") << QByteArray("norvane inertial scan_sensors=norvane busy") << "" << reset << 0;
+    QTest::newRow("scanned count") << Scanned << "Error: Unable to get numbers of sensors to scan" << Scanned << 0;
+    QTest::newRow("still scanning after 100 polls") << Scanned + "=-1" << "" << reset << 0;
+    QTest::newRow("a scanned sensor") << QByteArray("inertial scanned_sensor d02") << "Error: Unable to get informations "
+                                         "of sensor to add" << reset << 1;
+    QTest::newRow("its model") << QByteArray("inertial sensor_model_desc NRV IMU6") << "Error: Unable to get description "
+                                  "of sensor to add" << reset << 2;
+    QTest::newRow("no more sensors") << QByteArray("inertial scanned_sensor d02=") << "" << reset << 1;
+    QTest::newRow("a short line is skipped") << QByteArray("inertial scanned_sensor d02=NRV IMU9") << "" << reset << 2;
+    QTest::newRow("resetting the slots") << reset << "Error: Unable to set channels to scan" << reset << 3;
 }
 
 void tst_AddInertialSensorDlg::scanFailures()
 {
-    QFETCH(QString, mode);
-    QFETCH(QByteArray, failing);
-    QFETCH(QString, message);
+    QFETCH(QByteArray, change);
+    QFETCH(QString, messages);
     QFETCH(QByteArray, last);
     QFETCH(int, rows);
-    QFETCH(int, scans);
 
-    scriptController(1);
-    scriptScanned({"nv imu '2002' 35"});
-    fake->fail(failing);
-    open([&] {
-        chooseMode(mode);
-        w<QPushButton>("pushButton_scan")->click();
-        finish();
-    });
-
-    QVERIFY(fake->message_texts().contains(message));
+    const int equals = change.indexOf('=');
+    equals < 0 ? fake->fail(change) : fake->reply(change.left(equals), change.mid(equals + 1));
+    open([&] { QCOMPARE(scan("USB").size(), 2); });
+    QCOMPARE(fake->message_texts().join('\n'), messages);
     QCOMPARE(fake->lines().last(), last);
-    QCOMPARE(w<QTableWidget>("tableWidget")->rowCount(), rows);
-    QCOMPARE(fake->count("norvane inertial scan_sensors"), scans);
-    QVERIFY(w<QPushButton>("pushButton_scan")->isEnabled());
-    QVERIFY(w<QPushButton>("pushButton_exit")->isEnabled());
-    QVERIFY(w<QComboBox>("comboBox_scanMode")->isEnabled());
-    QCOMPARE(w<QProgressBar>("progressBar_overall")->value(), 100);
+    QCOMPARE(this->rows().size(), rows);
+    // An error stop ends in the "done" words too: the message told the user.
+    QCOMPARE(state(), QString("Scanning USB done, 100%, 111"));
+    QCOMPARE(fake->count(Scanned), change == Scanned + "=-1" ? 100 : fake->count(Scanned));
 }
 
-void tst_AddInertialSensorDlg::pollTimesOut()
+void tst_AddInertialSensorDlg::haltedScanAndReopening()
 {
-    scriptController(0);
-    fake->reply("inertial number_of_scanned_sensors", "-1");
+    fake->fail("inertial transceiver d01");
+    QString refused;
     open([&] {
+        // Without the first transceiver's name no radio scan starts.
+        QCOMPARE(scan("default channels"), QList<int>{0});   // nothing to cancel, no tick
+        refused = w<QLabel>("label_channel")->text();
+        fake->reply("inertial transceiver d01", "NRV Dongle 'T1001'");
         w<QPushButton>("pushButton_scan")->click();
-        QCOMPARE(finish(), 1);
+        QVERIFY(!dialog->close());   // refused while the scan can be cancelled
+        QTest::keyClick(dialog, Qt::Key_Escape);
+        QVERIFY(dialog->isVisible());   // Escape halts the scan, the dialog stays
+        QTest::keyClick(dialog, Qt::Key_F3);   // no second scan while one is halted
+        QCOMPARE(fake->count("inertial number_of_sensors") + fake->count("norvane inertial scan_sensors"), 1);
+        dialog->hide();
     });
-
-    QCOMPARE(fake->count("inertial number_of_scanned_sensors"), 100);
-    QCOMPARE(fake->lines().last(), QByteArray("inertial number_of_scan_channels 0"));
-    QVERIFY(fake->messages().isEmpty());
-    QCOMPARE(w<QTableWidget>("tableWidget")->rowCount(), 0);
-    QCOMPARE(w<QLabel>("label_channel")->text(), QString("Scanning USB done"));
-}
-
-void tst_AddInertialSensorDlg::blockedTickWaits()
-{
-    scriptController(0);
+    QCOMPARE(refused, QString("Scanning channel(s) aborted, could not get informations of dongle 1"));
+    QCOMPARE(fake->message_texts(), QStringList{"Error: Unable to get informations of dongle 1"});
+    // The next opening starts afresh, and F3 scans as the button does.
+    QString found;
     open([&] {
-        w<QPushButton>("pushButton_scan")->click();
-        fake->clear_log();
-        fake->set_blocked(true);
-        tick();
-        QVERIFY(fake->lines().isEmpty());
-        QVERIFY(!w<QPushButton>("pushButton_scan")->isEnabled());
-        fake->set_blocked(false);
-        QCOMPARE(finish(), 1);
+        found = state() + ' ' + w<QComboBox>("comboBox_scanMode")->currentText() + ' '
+                + QString::number(w<QComboBox>("comboBox_scanMode")->count());
+        QTest::keyClick(dialog, Qt::Key_A);   // only F3 scans
+        found += QString::number(w("pushButton_scan")->isEnabled());
+        QTest::keyClick(dialog, Qt::Key_F3);
+        QMetaObject::invokeMethod(dialog, "scan_channels");
+        found += ' ' + QString::number(rows().size());
+        QVERIFY(dialog->close());
     });
+    QCOMPARE(found, QString(", -1%, 111 USB 41 3"));   // a reset bar shows no value
     QCOMPARE(fake->count("norvane inertial scan_sensors"), 1);
-}
-
-void tst_AddInertialSensorDlg::knownSensorIsInert()
-{
-    scriptController(0);
-    scriptScanned({"nv imu '1001' 0", "nv imu '2002' 0"});
-    fake->reply("standard max_number_of_bodies", "4");
-    fake->reply("standard number_of_bodies", "1");
-    fake->reply("norvane inertial add_sensor nv imu '2002' 0", "norvane ok");
-    fake->reply("inertial sensor_has_storage nv imu '2002'", "yes");
-    fake->reply("body calibrated standard b01", "no");
-    fake->reply("body inertial_sensor standard b01", "none");
-    fake->accept("body inertial_sensor standard b01 nv imu '2002'");
-    open([&] {
-        w<QPushButton>("pushButton_scan")->click();
-        finish();
-        w<QCheckBox>("checkBox_acceptAll")->setChecked(true);
-        QTableWidget* table = w<QTableWidget>("tableWidget");
-        QCOMPARE(table->item(0, 4)->flags(), Qt::NoItemFlags);
-        QCOMPARE(table->item(0, 4)->checkState(), Qt::Unchecked);
-        QCOMPARE(table->item(1, 4)->checkState(), Qt::Checked);
-        fake->clear_log();
-        w<QPushButton>("pushButton_apply")->click();
-    });
-    QCOMPARE(fake->count("norvane inertial add_sensor nv imu '2002' 0"), 1);
-    for (const QByteArray& line : fake->lines())
-        QVERIFY2(!line.contains("1001"), line.constData());
-    QVERIFY(fake->unexpected().isEmpty());
 }
 
 void tst_AddInertialSensorDlg::acceptAllAndClicks()
 {
-    scriptController(0);
-    scriptScanned({"nv imu '2002' 0", "nv imu '2003' 0", "nv imu '2004' 0"});
     open([&] {
+        // "single channel" without a channel: nothing to scan.
+        answer_box(QMessageBox::Ok);
+        auto* modes = w<QComboBox>("comboBox_scanMode");
+        modes->setCurrentIndex(modes->findText("single channel"));
+        w<ChannelComboBox>("comboBox_channel")->setChannel(-1);
         w<QPushButton>("pushButton_scan")->click();
-        finish();
-        QTableWidget* table = w<QTableWidget>("tableWidget");
-        QPushButton* apply = w<QPushButton>("pushButton_apply");
-        QCheckBox* all = w<QCheckBox>("checkBox_acceptAll");
-        QVERIFY(!apply->isEnabled());
-
+        scan("USB");
+        auto* table = w<QTableWidget>("tableWidget");
+        auto* apply = w<QPushButton>("pushButton_apply");
+        auto* all = w<QCheckBox>("checkBox_acceptAll");
+        QStringList seen{QString::number(apply->isEnabled())};
         all->setChecked(true);
-        for (int row = 0; row < 3; ++row)
-            QCOMPARE(table->item(row, 4)->checkState(), Qt::Checked);
-        QVERIFY(apply->isEnabled());
-
-        // A click on one Accept cell unticks "accept all" but keeps the others.
-        const QRect cell = table->visualItemRect(table->item(1, 4));
-        const QPoint indicator(cell.left() + 10, cell.center().y());
-        QTest::mouseClick(table->viewport(), Qt::LeftButton, Qt::NoModifier, indicator);
-        QCOMPARE(table->item(1, 4)->checkState(), Qt::Unchecked);
-        QVERIFY(!all->isChecked());
-        QCOMPARE(table->item(0, 4)->checkState(), Qt::Checked);
-        QCOMPARE(table->item(2, 4)->checkState(), Qt::Checked);
-        QVERIFY(apply->isEnabled());
-
-        all->setChecked(false);   // unchecked already: nothing changes
-        QCOMPARE(table->item(0, 4)->checkState(), Qt::Checked);
+        seen << rows().join(',').remove(" Norvane").remove(" sensor 35") + QString::number(apply->isEnabled());
+        // A click on one Accept cell unticks "accept all" and keeps the others.
+        const QRect cell = table->visualItemRect(table->item(0, 4));
+        QTest::mouseClick(table->viewport(), Qt::LeftButton, Qt::NoModifier, QPoint(cell.left() + 10, cell.center().y()));
+        seen << rows().join(',').remove(" Norvane").remove(" sensor 35") + QString::number(apply->isEnabled())
+                    + QString::number(all->isChecked());
         all->setChecked(true);
         all->setChecked(false);
-        for (int row = 0; row < 3; ++row)
-            QCOMPARE(table->item(row, 4)->checkState(), Qt::Unchecked);
-        QVERIFY(!apply->isEnabled());
-
+        seen << QString::number(apply->isEnabled());
         table->item(2, 4)->setCheckState(Qt::Checked);   // by keyboard: no click
-        QVERIFY(apply->isEnabled());
+        seen << QString::number(apply->isEnabled());
+        w<QPushButton>("pushButton_scan")->click();   // nothing to apply while scanning again
+        seen << QString::number(apply->isEnabled());
+        QMetaObject::invokeMethod(dialog, "scan_channels");
+        QCOMPARE(seen.join(' '), QString("0 S0007 IMU9 x,S0001 IMU9 -,C0008 IMU6 x1 S0007 IMU9 o,S0001 IMU9 -,"
+                                         "C0008 IMU6 x10 0 1 0"));
     });
-    QVERIFY(fake->unexpected().isEmpty());
+    QCOMPARE(box, QString("Warning: Please select a channel to scan"));
+    QCOMPARE(fake->message_texts(), QStringList());
 }
 
-void tst_AddInertialSensorDlg::singleChannel()
+void tst_AddInertialSensorDlg::apply_data()
 {
-    scriptController(1);
-    bool chooserEnabled = false;
-    bool cancelDuringScan = true;
-    bool chooserDuringScan = true;
-    open([&] {
-        chooseMode("single channel");
-        ChannelComboBox* chooser = w<ChannelComboBox>("comboBox_channel");
-        chooserEnabled = chooser->isEnabled();
-        QCOMPARE(chooser->currentText(), QString("2"));
-        chooser->showPopup();   // pick 47 in the grid as a user does
-        chooser->table()->setCurrentCell(4, 6);
-        QTest::keyClick(chooser->table(), Qt::Key_Return);
-        QCOMPARE(chooser->currentText(), QString("47"));
-        w<QPushButton>("pushButton_scan")->click();
-        cancelDuringScan = w<QPushButton>("pushButton_cancel")->isEnabled();
-        chooserDuringScan = chooser->isEnabled();
-        QCOMPARE(finish(), 1);
-        QVERIFY(chooser->isEnabled());
-        chooseMode("USB");
-        QVERIFY(!chooser->isEnabled());
-        QCOMPARE(chooser->currentIndex(), -1);
-    });
-    QVERIFY(chooserEnabled);
-    QVERIFY(!cancelDuringScan);
-    QVERIFY(!chooserDuringScan);
-    QCOMPARE(fake->count(dongleLine(47)), 1);
-    QCOMPARE(fake->count("norvane inertial scan_sensors"), 1);
-    QCOMPARE(w<QLabel>("label_channel")->text(), QString("Scanning channel done"));
+    QTest::addColumn<bool>("taken");             // every body of the count carries a sensor or is calibrated
+    QTest::addColumn<QByteArray>("change");      // "LINE" fails, "LINE=ANSWER" answers so
+    QTest::addColumn<QList<QByteArray>>("sent");   // settings and commands, in order
+    QTest::addColumn<QString>("after");          // the Accept cells, then the messages or the box
+
+    const QByteArray on3 = "body inertial_sensor standard b03 NRV IMU9 'S0007'";
+    const QByteArray on5 = "body inertial_sensor standard b05 NRV IMU6 'C0008'";
+    QTest::newRow("the first free bodies") << false << QByteArray() << QList<QByteArray>{Add7, on3, Add8, on5} << "---";
+    QTest::newRow("bodies raised up to the maximum") << true << QByteArray() << QList<QByteArray>{Add7,
+        "standard number_of_bodies 7", "body inertial_sensor standard b07 NRV IMU9 'S0007'", Add8,
+        "standard number_of_bodies 8", "body inertial_sensor standard b08 NRV IMU6 'C0008'"} << "---";
+    QTest::newRow("maximum reached: taken off again") << true << QByteArray("standard max_number_of_bodies=6")
+        << QList<QByteArray>{Add7, Add8, "norvane inertial delete_sensor NRV IMU9 'S0007'",
+                             "norvane inertial delete_sensor NRV IMU6 'C0008'"}
+        << "x-x Sensor adding failed: Following sensors are not added:\n\n'S0007'\n'C0008'\n\n because the maximum "
+           "number of bodies is reached.";
+    QTest::newRow("no storage: no body") << false << QByteArray("inertial sensor_has_storage NRV IMU9 'S0007'=no")
+        << QList<QByteArray>{Add7, Add8, "body inertial_sensor standard b03 NRV IMU6 'C0008'"} << "---";
+    QTest::newRow("storage unknown: a body anyway") << false << QByteArray("inertial sensor_has_storage NRV IMU9 'S0007'")
+        << QList<QByteArray>{Add7, on3, Add8, on5} << "--- Error: Unable to get whether sensor has storage";
+    QTest::newRow("refused: told why, nothing more") << false << Add7 + "=norvane err 7 'not now'"
+        << QList<QByteArray>{Add7} << "x-x Information: Could not add sensor norvane err 7 not now";
+    QTest::newRow("not sent") << false << Add7 << QList<QByteArray>{Add7} << "x-x Error: Unable to add sensor";
+    QTest::newRow("maximum unknown") << false << QByteArray("standard max_number_of_bodies") << QList<QByteArray>{}
+                                     << "x-x Error: Unable to get max number of bodies";
+    QTest::newRow("calibration unknown") << false << QByteArray("body calibrated standard b01") << QList<QByteArray>{Add7}
+                                         << "x-x Error: Unable to get calibration of body";
+    QTest::newRow("sensor of a body unknown") << false << QByteArray("body inertial_sensor standard b01")
+        << QList<QByteArray>{Add7} << "x-x Error: Unable to get inertial information of body";
+    QTest::newRow("raising refused") << true << QByteArray("standard number_of_bodies 7") << QList<QByteArray>{Add7,
+        "standard number_of_bodies 7"} << "x-x Error: Unable to set number of bodies";
+    QTest::newRow("placing refused") << false << on3 << QList<QByteArray>{Add7, on3}
+                                     << "x-x Error: Unable to set inertial sensor to body";
 }
 
-void tst_AddInertialSensorDlg::singleChannelNotChosen()
+void tst_AddInertialSensorDlg::apply()
 {
-    scriptController(1);
-    QString warning;
-    open([&] {
-        chooseMode("single channel");
-        w<ChannelComboBox>("comboBox_channel")->setChannel(-1);
-        ModalDialogHelper::when_active("QMessageBox", [&](QWidget* box) {
-            warning = box->windowTitle() + ": " + static_cast<QMessageBox*>(box)->text();
-            ModalDialogHelper::press(box, QMessageBox::Ok);
-        });
-        fake->clear_log();
-        w<QPushButton>("pushButton_scan")->click();
-        QVERIFY(w<QPushButton>("pushButton_scan")->isEnabled());
-    });
-    QCOMPARE(warning, QString("Warning: Please select a channel to scan"));
-    QVERIFY(fake->lines().isEmpty());
-}
+    QFETCH(bool, taken);
+    QFETCH(QByteArray, change);
+    QFETCH(QList<QByteArray>, sent);
+    QFETCH(QString, after);
 
-void tst_AddInertialSensorDlg::cancelSeenAtNextTick()
-{
-    scriptController(1);
-    open([&] {
-        chooseMode("all channels");
-        w<QPushButton>("pushButton_scan")->click();
-        tick();
-        tick();
-        const int sent = fake->lines().size();
-        w<QPushButton>("pushButton_cancel")->click();
-        QCOMPARE(fake->lines().size(), sent);   // nothing stops mid-channel
-        QVERIFY(!w<QPushButton>("pushButton_scan")->isEnabled());
-        tick();
-        QCOMPARE(fake->lines().size(), sent);
-        QVERIFY(w<QPushButton>("pushButton_scan")->isEnabled());
-        QVERIFY(!w<QPushButton>("pushButton_cancel")->isEnabled());
-    });
-    QCOMPARE(fake->count("norvane inertial scan_sensors"), 2);
-    QCOMPARE(w<QLabel>("label_channel")->text(), QString("Scanning channels aborted"));
-    QCOMPARE(w<QProgressBar>("progressBar_overall")->value(), 0);
-}
-
-void tst_AddInertialSensorDlg::closeAndEscapeDuringScan()
-{
-    scriptController(1);
-    open([&] {
-        chooseMode("default channels");
-        w<QPushButton>("pushButton_scan")->click();
-        QVERIFY(!dlg->close());   // refused while the scan can be cancelled
-        QVERIFY(dlg->isVisible());
-
-        QTest::keyClick(dlg, Qt::Key_Escape);
-        QVERIFY(dlg->isVisible());
-        QVERIFY(!w<QPushButton>("pushButton_scan")->isEnabled());   // halted, still scanning
-        QTest::qWait(250);   // the halted timer really stays silent
-        QCOMPARE(fake->count("norvane inertial scan_sensors"), 0);
-
-        // Cancel still ends a halted scan.
-        w<QPushButton>("pushButton_cancel")->click();
-        QTRY_VERIFY(w<QPushButton>("pushButton_scan")->isEnabled());
-        QCOMPARE(w<QLabel>("label_channel")->text(), QString("Scanning channels aborted"));
-        QCOMPARE(fake->count("norvane inertial scan_sensors"), 0);
-
-        QVERIFY(dlg->close());   // idle: closing is fine
-    });
-    QVERIFY(!dlg->isVisible());
-}
-
-void tst_AddInertialSensorDlg::f3Scans()
-{
-    scriptController(0);
-    open([&] {
-        QTest::keyClick(dlg, Qt::Key_F3);
-        QVERIFY(!w<QPushButton>("pushButton_scan")->isEnabled());
-        QTest::keyClick(dlg, Qt::Key_F3);   // no second scan while one runs
-        QCOMPARE(finish(), 1);
-    });
-    QCOMPARE(fake->count("norvane inertial scan_sensors"), 1);
-    QCOMPARE(fake->count("inertial number_of_sensors"), 1);
-}
-
-void tst_AddInertialSensorDlg::applyPlacesSensors()
-{
-    // Body 1 is free, body 2 appears when the count is raised, and the
-    // third sensor finds no body below the maximum of 2.
-    scriptController(0);
-    scriptScanned({"nv imu '2002' 0", "nv imu '2003' 0", "nv imu '2004' 0"});
-    fake->set_stateful(true);
-    fake->reply("standard max_number_of_bodies", "2");
-    fake->reply("standard number_of_bodies", "1");
-    for (const QByteArray serial : {"2002", "2003", "2004"}) {
-        fake->reply("norvane inertial add_sensor nv imu '" + serial + "' 0", "norvane ok");
-        fake->reply("inertial sensor_has_storage nv imu '" + serial + "'", "yes");
+    for (const QByteArray& sensor : {QByteArray("NRV IMU9 'S0007'"), QByteArray("NRV IMU6 'C0008'")}) {
+        fake->reply("norvane inertial add_sensor " + sensor + " 35", "norvane ok");
+        fake->reply("norvane inertial delete_sensor " + sensor, "norvane ok");
+        fake->reply("inertial sensor_has_storage " + sensor, "yes");
     }
-    fake->reply("body calibrated standard b01", "no");
-    fake->reply("body calibrated standard b02", "no");
-    fake->reply("body inertial_sensor standard b01", "none");
-    fake->reply("body inertial_sensor standard b02", "none");
-    fake->reply("norvane inertial delete_sensor nv imu '2004'", "norvane ok");
-
-    QString warning;
+    for (const char* body : {"b03", "b05", "b06"})
+        fake->reply(QByteArray("body calibrated standard ") + body, taken ? "yes" : "no");
+    const int equals = change.indexOf('=');
+    if (!change.isEmpty())
+        equals < 0 ? fake->fail(change) : fake->reply(change.left(equals), change.mid(equals + 1));
+    QString seen;
     open([&] {
-        w<QPushButton>("pushButton_scan")->click();
-        finish();
+        scan("USB");
         w<QCheckBox>("checkBox_acceptAll")->setChecked(true);
         fake->clear_log();
-        ModalDialogHelper::when_active("QMessageBox", [&](QWidget* box) {
-            warning = box->windowTitle() + ": " + static_cast<QMessageBox*>(box)->text();
-            ModalDialogHelper::press(box, QMessageBox::Ok);
-        });
+        if (after.contains("failed:") || after.contains("Information:"))
+            answer_box(QMessageBox::Ok);
         w<QPushButton>("pushButton_apply")->click();
-        QVERIFY(dlg->isVisible());   // adding leaves the dialog open
+        for (const QString& row : rows())
+            seen += row.right(1);
+        QVERIFY(dialog->isVisible() && !QApplication::overrideCursor());
     });
-
-    QCOMPARE(fake->lines(), QList<QByteArray>({
-        "standard max_number_of_bodies",
-        "norvane inertial add_sensor nv imu '2002' 0",
-        "standard number_of_bodies",
-        "inertial sensor_has_storage nv imu '2002'",
-        "body calibrated standard b01",
-        "body inertial_sensor standard b01",
-        "body inertial_sensor standard b01 nv imu '2002'",
-        "norvane inertial add_sensor nv imu '2003' 0",
-        "standard number_of_bodies",
-        "inertial sensor_has_storage nv imu '2003'",
-        "body calibrated standard b01",
-        "body inertial_sensor standard b01",
-        "standard number_of_bodies 2",
-        "body calibrated standard b02",
-        "body inertial_sensor standard b02",
-        "body inertial_sensor standard b02 nv imu '2003'",
-        "norvane inertial add_sensor nv imu '2004' 0",
-        "standard number_of_bodies",
-        "inertial sensor_has_storage nv imu '2004'",
-        "body calibrated standard b01",
-        "body inertial_sensor standard b01",
-        "body calibrated standard b02",
-        "body inertial_sensor standard b02",
-        "norvane inertial delete_sensor nv imu '2004'",
-    }));
-    QCOMPARE(warning, QString("Sensor adding failed: Following sensors are not added:\n\n'2004'\n\n"
-                              " because the maximum number of bodies is reached."));
-    QTableWidget* table = w<QTableWidget>("tableWidget");
-    QCOMPARE(table->item(0, 4)->flags(), Qt::NoItemFlags);
-    QCOMPARE(table->item(1, 4)->flags(), Qt::NoItemFlags);
-    QVERIFY(table->item(2, 4)->flags() & Qt::ItemIsUserCheckable);   // may be tried again
-    QVERIFY(fake->messages().isEmpty());
-    QVERIFY(fake->unexpected().isEmpty());
-}
-
-void tst_AddInertialSensorDlg::applyStorage_data()
-{
-    QTest::addColumn<int>("minor");
-    QTest::addColumn<QByteArray>("storage");   // empty: the query fails
-    QTest::addColumn<bool>("placed");
-    QTest::addColumn<QStringList>("messages");
-
-    QTest::newRow("1.21, with storage") << 21 << QByteArray("yes") << true << QStringList();
-    QTest::newRow("1.21, without storage") << 21 << QByteArray("no") << false << QStringList();
-    QTest::newRow("1.21, query fails") << 21 << QByteArray() << true
-                                       << QStringList{"Error: Unable to get whether sensor has storage"};
-    QTest::newRow("1.20 does not ask") << 20 << QByteArray("no") << true << QStringList();
-}
-
-void tst_AddInertialSensorDlg::applyStorage()
-{
-    QFETCH(int, minor);
-    QFETCH(QByteArray, storage);
-    QFETCH(bool, placed);
-    QFETCH(QStringList, messages);
-
-    versions.minor = minor;
-    scriptController(0);
-    scriptScanned({"nv imu '2002' 0"});
-    fake->reply("standard max_number_of_bodies", "2");
-    fake->reply("standard number_of_bodies", "1");
-    fake->reply("norvane inertial add_sensor nv imu '2002' 0", "norvane ok");
-    if (storage.isEmpty())
-        fake->fail("inertial sensor_has_storage nv imu '2002'");
-    else
-        fake->reply("inertial sensor_has_storage nv imu '2002'", storage);
-    fake->reply("body calibrated standard b01", "no");
-    fake->reply("body inertial_sensor standard b01", "none");
-    fake->accept("body inertial_sensor standard b01 nv imu '2002'");
-    open([&] {
-        w<QPushButton>("pushButton_scan")->click();
-        finish();
-        w<QCheckBox>("checkBox_acceptAll")->setChecked(true);
-        fake->clear_log();
-        w<QPushButton>("pushButton_apply")->click();
-        QCOMPARE(w<QTableWidget>("tableWidget")->item(0, 4)->flags(), Qt::NoItemFlags);
-        QVERIFY(!w<QPushButton>("pushButton_apply")->isEnabled());
-    });
-    QCOMPARE(fake->count("inertial sensor_has_storage nv imu '2002'"), minor >= 21 ? 1 : 0);
-    QCOMPARE(fake->count("body inertial_sensor standard b01 nv imu '2002'"), placed ? 1 : 0);
-    QCOMPARE(fake->message_texts(), messages);
-    QVERIFY(fake->unexpected().isEmpty());
-}
-
-void tst_AddInertialSensorDlg::applyFailures_data()
-{
-    QTest::addColumn<QByteArray>("failing");
-    QTest::addColumn<QString>("message");
-
-    QTest::newRow("max bodies") << QByteArray("standard max_number_of_bodies") << "Error: Unable to get max number of bodies";
-    QTest::newRow("add") << QByteArray("norvane inertial add_sensor nv imu '2002' 0") << "Error: Unable to add sensor";
-    QTest::newRow("body count") << QByteArray("standard number_of_bodies") << "Error: Unable to get number of bodies";
-    QTest::newRow("calibration") << QByteArray("body calibrated standard b01") << "Error: Unable to get calibration of body";
-    QTest::newRow("body sensor") << QByteArray("body inertial_sensor standard b01")
-                                 << "Error: Unable to get inertial information of body";
-    QTest::newRow("raising the count") << QByteArray("standard number_of_bodies 2") << "Error: Unable to set number of bodies";
-    QTest::newRow("assignment") << QByteArray("body inertial_sensor standard b02 nv imu '2002'")
-                                << "Error: Unable to set inertial sensor to body";
-    QTest::newRow("refused") << QByteArray() << "Information: Could not add sensor norvane error no room";
-}
-
-void tst_AddInertialSensorDlg::applyFailures()
-{
-    QFETCH(QByteArray, failing);
-    QFETCH(QString, message);
-
-    scriptController(0);
-    scriptScanned({"nv imu '2002' 0", "nv imu '2003' 0"});
-    fake->reply("standard max_number_of_bodies", "3");
-    fake->reply("standard number_of_bodies", "1");
-    fake->reply("norvane inertial add_sensor nv imu '2002' 0", "norvane ok");
-    fake->reply("inertial sensor_has_storage nv imu '2002'", "yes");
-    fake->reply("body calibrated standard b01", "no");
-    fake->reply("body inertial_sensor standard b01", "nv imu '1001'");
-    fake->accept("standard number_of_bodies 2");
-    fake->reply("body calibrated standard b02", "no");
-    fake->reply("body inertial_sensor standard b02", "none");
-    fake->accept("body inertial_sensor standard b02 nv imu '2002'");
-    if (failing.isEmpty())
-        fake->reply("norvane inertial add_sensor nv imu '2002' 0", "norvane error 'no room'");
-    else
-        fake->fail(failing);
-
-    QString box;
-    open([&] {
-        w<QPushButton>("pushButton_scan")->click();
-        finish();
-        w<QCheckBox>("checkBox_acceptAll")->setChecked(true);
-        fake->clear_log();
-        if (failing.isEmpty())
-            ModalDialogHelper::when_active("QMessageBox", [&](QWidget* b) {
-                box = b->windowTitle() + ": " + static_cast<QMessageBox*>(b)->text();
-                ModalDialogHelper::press(b, QMessageBox::Ok);
-            });
-        w<QPushButton>("pushButton_apply")->click();
-        QVERIFY(QApplication::overrideCursor() == nullptr);
-        QVERIFY(w<QPushButton>("pushButton_scan")->isEnabled());
-    });
-    if (failing.isEmpty()) {
-        QCOMPARE(box, message);
-        QVERIFY(fake->messages().isEmpty());
-    } else {
-        QCOMPARE(fake->message_texts(), QStringList{message});
-        QCOMPARE(fake->lines().last(), failing);
-    }
-    // The first failure ends adding: the second sensor is never tried.
-    QCOMPARE(fake->count("norvane inertial add_sensor nv imu '2003' 0"), 0);
-}
-
-void tst_AddInertialSensorDlg::absurdCounts()
-{
-    // A controller gone mad must cost a bounded number of round trips.
-    scriptController(1);
-    fake->reply("inertial number_of_transceivers", "2000000000");
-    fake->reply("inertial number_of_sensors", "2000000000");
-    fake->replies("inertial number_of_scanned_sensors", {"2000000000"});
-    fake->reply("inertial scanned_sensor d01", "nv");            // too short to be a sensor
-    fake->reply("inertial scanned_sensor d02", "nv imu '2002'"); // no channel word: the scanned one
-    fake->reply("inertial scanned_sensor d03", "");             // nothing more
-    open([&] {
-        chooseMode("single channel");
-        w<ChannelComboBox>("comboBox_channel")->setChannel(9);
-        w<QPushButton>("pushButton_scan")->click();
-        QCOMPARE(finish(), 1);
-    });
-    QVERIFY(fake->count("inertial sensor d01") == 1);
-    QVERIFY(fake->lines().size() < 600);
-    QTableWidget* table = w<QTableWidget>("tableWidget");
-    QCOMPARE(table->rowCount(), 1);
-    QCOMPARE(table->item(0, 0)->text(), QString("2002"));
-    QCOMPARE(table->item(0, 3)->text(), QString("9"));
+    QList<QByteArray> changes;
+    for (const FakeController::Call& call : fake->calls())
+        if (call.operation == FakeController::SetValue || call.operation == FakeController::SendCommand)
+            changes << call.line;
+    QCOMPARE(changes, sent);
+    QCOMPARE(QStringList({seen, box.isEmpty() ? fake->message_texts().join('\n') : box}).join(' ').trimmed(), after);
 }
 
 QTEST_MAIN(tst_AddInertialSensorDlg)

@@ -9,12 +9,13 @@
 #include "FakeController.h"
 #include "ModalDialogHelper.h"
 #include "module/BackendVersions.h"
+#include "statusbar/BatteryBar.h"
 #include "statusbar/InertialStatusBar.h"
 #include "statusbar/TemperatureBar.h"
 
-// The status bar against the scripted controller: its own availability
-// rule, the three states the polls move it between, and the warm-up button.
-// Timer slots are called directly; only timersDrivePolls runs the timers.
+// The status widget against the scripted controller: its own availability
+// rule, the three states its two polls move it between, the warm-up button,
+// and the two bars' colours.
 class tst_InertialStatusBar : public QObject
 {
     Q_OBJECT
@@ -22,49 +23,28 @@ class tst_InertialStatusBar : public QObject
 private slots:
     void init();
     void cleanup();
-    void frame();
-    void availability_data();
-    void availability();
-    void construction_data();
-    void construction();
-    void pollFollowsController();
-    void progress_data();
-    void progress();
-    void losingAvailability();
-    void blockedChangesNothing_data();
-    void blockedChangesNothing();
+    void bars_data();
+    void bars();
+    void polls_data();
+    void polls();
     void button_data();
     void button();
-    void aboutToExit_data();
-    void aboutToExit();
-    void timersDrivePolls();
+    void blockedChangesNothing();
 
 private:
-    // "<fail>" makes the line fail; a null answer leaves it unscripted.
-    void script(const QByteArray& line, const QByteArray& answer);
-    void script_controller(const QByteArray& available, const QByteArray& count,
-                           const QByteArray& warmup, const QByteArray& status = "0");
-    std::unique_ptr<InertialStatusBar> make();
-
-    static QToolButton* button(InertialStatusBar& status);
-    static TemperatureBar* bar(InertialStatusBar& status);
-    static QAction* barAction(InertialStatusBar& status);
-    static QTimer* timer(InertialStatusBar& status, const char* name);
+    // The controller's answers to "inertial available", "inertial
+    // number_of_sensors", "inertial warmup" and "inertial warmup_status";
+    // "-" makes one fail.
+    void answer(const QList<QByteArray>& answers);
+    // The button, the bar and whether the progress poll runs.
+    QString state() const;
+    QTimer* timer(const char* name) const { return status->findChild<QTimer*>(name); }
 
     FakeController* fake = nullptr;
     BackendVersions versions;
-    QWidget* host_window = nullptr;
+    QWidget* window = nullptr;
+    std::unique_ptr<InertialStatusBar> status;
 };
-
-namespace {
-
-const QByteArray Available = "inertial available";
-const QByteArray Count = "inertial number_of_sensors";
-const QByteArray Warmup = "inertial warmup";
-const QByteArray WarmupStatus = "inertial warmup_status";
-const QString Running = QStringLiteral("Warmup is running %p%...");
-
-} // namespace
 
 void tst_InertialStatusBar::init()
 {
@@ -72,479 +52,212 @@ void tst_InertialStatusBar::init()
     versions = BackendVersions();
     versions.major = 1;
     versions.minor = 21;
-    host_window = new QWidget;
+    window = new QWidget;
 }
 
 void tst_InertialStatusBar::cleanup()
 {
-    delete host_window;
-    host_window = nullptr;
+    status.reset();
+    delete window;
     delete fake;
-    fake = nullptr;
     QCOMPARE(ModalDialogHelper::leaked_windows(), QStringList());
-    QCOMPARE(ModalDialogHelper::pending(), 0);
 }
 
-void tst_InertialStatusBar::script(const QByteArray& line, const QByteArray& answer)
+void tst_InertialStatusBar::answer(const QList<QByteArray>& answers)
 {
-    if (answer == "<fail>")
-        fake->fail(line);
-    else if (!answer.isNull())
-        fake->reply(line, answer);
+    const QList<QByteArray> lines{"inertial available", "inertial number_of_sensors", "inertial warmup",
+                                  "inertial warmup_status"};
+    for (int i = 0; i < lines.size(); ++i)
+        answers.at(i) == "-" ? fake->fail(lines.at(i)) : fake->reply(lines.at(i), answers.at(i));
 }
 
-void tst_InertialStatusBar::script_controller(const QByteArray& available, const QByteArray& count,
-                                              const QByteArray& warmup, const QByteArray& status)
+QString tst_InertialStatusBar::state() const
 {
-    script(Available, available);
-    script(Count, count);
-    script(Warmup, warmup);
-    script(WarmupStatus, status);
+    auto* button = status->findChild<QToolButton*>("pushButton_startWarmup");
+    auto* bar = status->findChild<TemperatureBar*>("progressBar_warmup");
+    QAction* action = status->actions().value(1);
+    return QString("%1%2, bar %3 %4 \"%5\", %6").arg(button->text(), button->isEnabled() ? "" : " (off)")
+        .arg(status->widgetForAction(action) == bar && action->isVisible() ? "shown" : "hidden").arg(bar->value())
+        .arg(bar->text()).arg(timer("progressTimer")->isActive() ? "polling" : "idle");
 }
 
-std::unique_ptr<InertialStatusBar> tst_InertialStatusBar::make()
+void tst_InertialStatusBar::bars_data()
 {
-    return std::make_unique<InertialStatusBar>(fake, host_window, &versions);
+    QTest::addColumn<bool>("battery");
+    QTest::addColumn<double>("value");
+    QTest::addColumn<QString>("look");   // value, text and border colour, chunk
+
+    // A battery takes a fraction and is green from 20; a temperature is taken as it stands, green from 95.
+    QTest::newRow("battery 0.195 is 19, red") << true << 0.195 << "19 black/red background-color: #FF0000;";
+    QTest::newRow("battery 0 is red") << true << 0.0 << "0 black/red background-color: #FF0000;";
+    QTest::newRow("battery 0.2 is 20, green") << true << 0.2 << "20 black/black background-color: #4CFF00;";
+    QTest::newRow("battery 0.999 is 99") << true << 0.999 << "99 black/black background-color: #4CFF00;";
+    QTest::newRow("battery 1.5 is full, rounded") << true << 1.5 << "100 black/black background-color: #4CFF00; "
+                                                                   "border-radius: 2px;";
+    QTest::newRow("battery negative: unknown") << true << -0.01 << "0 white/white background-color: #FFFFFF; "
+                                                                  "border-radius: 2px;";
+    QTest::newRow("battery not a number: unknown") << true << qQNaN() << "0 white/white background-color: #FFFFFF; "
+                                                                         "border-radius: 2px;";
+    QTest::newRow("temperature 94.9 is 94, red") << false << 94.9 << "94 black/black background-color: #FF0000;";
+    QTest::newRow("temperature 95 is green") << false << 95.0 << "95 black/black background-color: #4CFF00;";
+    QTest::newRow("temperature 100 rounded") << false << 100.0 << "100 black/black background-color: #4CFF00; "
+                                                                  "border-radius: 2px;";
+    QTest::newRow("temperature -1: unknown") << false << -1.0 << "0 white/white background-color: #FF0000;";
+    QTest::newRow("temperature -0.5 is 0") << false << -0.5 << "0 black/black background-color: #FF0000;";
+    QTest::newRow("temperature not a number: unknown") << false << qQNaN() << "0 white/white background-color: #FF0000;";
 }
 
-QToolButton* tst_InertialStatusBar::button(InertialStatusBar& status)
+void tst_InertialStatusBar::bars()
 {
-    return status.findChild<QToolButton*>(QStringLiteral("pushButton_startWarmup"));
+    QFETCH(bool, battery);
+    QFETCH(double, value);
+    QFETCH(QString, look);
+
+    BatteryBar charge;
+    TemperatureBar warmth;
+    QProgressBar& bar = battery ? static_cast<QProgressBar&>(charge) : warmth;
+    QCOMPARE(QString("%1 %2 %3").arg(bar.minimum()).arg(bar.maximum()).arg(bar.value()), QString("0 100 0"));
+    battery ? charge.setValue(value) : warmth.setValue(value);
+    const QRegularExpression parts("^(\\w+) \\{ color: (\\w+);.*border-top: 2px solid (\\w+);.* (\\S+) \\{ (.*) \\}$");
+    const QRegularExpressionMatch m = parts.match(bar.styleSheet());
+    QCOMPARE(QString("%1 %2/%3 %4").arg(bar.value()).arg(m.captured(2), m.captured(3), m.captured(5)), look);
+    QCOMPARE(m.captured(1) + ' ' + m.captured(4), battery ? "BatteryBar BatteryBar::chunk"
+                                                          : "TemperatureBar QProgressBar::chunk");
+    // The temperature's text is its own; the value stays.
+    warmth.setTemperature(23.46);
+    QCOMPARE(warmth.text(), QString("23.5\u00b0C"));
 }
 
-TemperatureBar* tst_InertialStatusBar::bar(InertialStatusBar& status)
+void tst_InertialStatusBar::polls_data()
 {
-    return status.findChild<TemperatureBar*>();
-}
-
-QAction* tst_InertialStatusBar::barAction(InertialStatusBar& status)
-{
-    for (QAction* action : status.actions())
-        if (status.widgetForAction(action) == bar(status))
-            return action;
-    return nullptr;
-}
-
-QTimer* tst_InertialStatusBar::timer(InertialStatusBar& status, const char* name)
-{
-    return status.findChild<QTimer*>(QLatin1String(name));
-}
-
-void tst_InertialStatusBar::frame()
-{
-    versions.minor = 11;
-    auto status = make();
-    QCOMPARE(status->objectName(), QStringLiteral("InertialStatusBar"));
-    QCOMPARE(status->windowTitle(), QStringLiteral("VEK InertialSensor Status"));
-    QCOMPARE(status->whatsThis(),
-             QStringLiteral("Displays whether VEK InertialSensor is available and the warming up status"));
-    QCOMPARE(status->parentWidget(), host_window);
-    QVERIFY(status->isVisibleTo(host_window));
-
-    // The button first, then the bar, each in its own action.
-    const QList<QAction*> actions = status->actions();
-    QCOMPARE(actions.size(), 2);
-    QCOMPARE(status->widgetForAction(actions.at(0)), static_cast<QWidget*>(button(*status)));
-    QCOMPARE(status->widgetForAction(actions.at(1)), static_cast<QWidget*>(bar(*status)));
-    QCOMPARE(button(*status)->toolButtonStyle(), Qt::ToolButtonTextBesideIcon);
-    QCOMPARE(button(*status)->maximumHeight(), 22);
-    QCOMPARE(bar(*status)->maximumSize(), QSize(200, 22));
-    QCOMPARE(bar(*status)->format(), QString());
-
-    QCOMPARE(timer(*status, "statusTimer")->interval(), 1000);
-    QVERIFY(timer(*status, "statusTimer")->isActive());
-    QCOMPARE(timer(*status, "progressTimer")->interval(), 5000);
-    QVERIFY(!timer(*status, "progressTimer")->isActive());
-}
-
-void tst_InertialStatusBar::availability_data()
-{
-    QTest::addColumn<int>("major");
     QTest::addColumn<int>("minor");
-    QTest::addColumn<int>("patch");
-    QTest::addColumn<QByteArray>("available");
-    QTest::addColumn<QByteArray>("count");
-    QTest::addColumn<bool>("expected");
-    QTest::addColumn<QByteArrayList>("lines");
+    QTest::addColumn<QList<QByteArray>>("before");   // the answers at construction
+    QTest::addColumn<QList<QByteArray>>("after");    // the answers to the polls
+    QTest::addColumn<QString>("states");             // built (lines asked), after the status poll, after the progress poll
+    QTest::addColumn<QString>("messages");
 
-    const QByteArrayList both{Available, Count};
-    QTest::newRow("below 1.12.0 nothing is asked")
-        << 1 << 11 << 99 << QByteArray("yes") << QByteArray("2") << false << QByteArrayList();
-    QTest::newRow("1.12.-1 passes the gate")
-        << 1 << 12 << -1 << QByteArray("yes") << QByteArray("2") << true << both;
-    QTest::newRow("2.0.0 passes the gate")
-        << 2 << 0 << 0 << QByteArray("yes") << QByteArray("1") << true << both;
-    QTest::newRow("available no")
-        << 1 << 21 << 0 << QByteArray("no") << QByteArray("2") << false
-        << QByteArrayList{Available};
-    QTest::newRow("available is compared whole")
-        << 1 << 21 << 0 << QByteArray("yes please") << QByteArray("2") << false
-        << QByteArrayList{Available};
-    QTest::newRow("failed available query counts as yes")
-        << 1 << 21 << 0 << QByteArray("<fail>") << QByteArray("2") << true << both;
-    QTest::newRow("no sensors is unavailable")
-        << 1 << 21 << 0 << QByteArray("yes") << QByteArray("0") << false << both;
-    QTest::newRow("failed count is unavailable")
-        << 1 << 21 << 0 << QByteArray("yes") << QByteArray("<fail>") << false << both;
-    QTest::newRow("both queries fail")
-        << 1 << 21 << 0 << QByteArray("<fail>") << QByteArray("<fail>") << false << both;
-    QTest::newRow("absurd count is still sensors")
-        << 1 << 21 << 0 << QByteArray("yes") << QByteArray("2000000000") << true << both;
+    const QList<QByteArray> idle{"yes", "2", "no", "0.4"};
+    const QList<QByteArray> warming{"yes", "2", "yes", "0.4"};
+    const QString off = "Warmup start (off), bar hidden 0 \"\", idle";
+    const QString ready = "Warmup start, bar shown 0 \"\", idle";
+    const QString running = "Warmup stop, bar shown 40 \"Warmup is running 40%...\", polling";
+    const QString started = "Warmup stop, bar shown 40 \"\", polling [7]\n" + running + '\n';   // no text before a status poll
+    auto row = [&](const char* name, int minor, const QList<QByteArray>& before, const QList<QByteArray>& after,
+                   const QString& states, const QString& messages = {}) {
+        QTest::newRow(name) << minor << before << after << states << messages;
+    };
+    row("1.11: nothing asked", 11, idle, idle, off + " [0]\n" + off + '\n' + off);
+    row("1.12: the first with inertial sensors", 12, idle, idle, ready + " [4]\n" + ready + '\n' + ready);
+    row("said no", 21, {"no", "2", "no", "0"}, idle, off + " [1]\n" + ready + '\n' + ready);
+    row("compared whole", 21, {"yes please", "2", "no", "0"}, {"yes please", "2", "no", "0"}, off + " [1]\n" + off + '\n'
+        + off);
+    row("unanswered counts as yes", 21, {"-", "1", "no", "0"}, idle, ready + " [4]\n" + ready + '\n' + ready);
+    row("no sensors, nothing to warm", 21, {"yes", "0", "no", "0"}, idle, off + " [2]\n" + ready + '\n' + ready);
+    row("count unanswered", 21, {"yes", "-", "no", "0"}, idle, off + " [2]\n" + ready + '\n' + ready);
+    row("count unreadable", 21, {"yes", "two", "no", "0"}, idle, ready + " [4]\n" + ready + '\n' + ready,
+        "Could not get number of sensors");
+    row("warming already", 21, warming, warming, started + running);
+    row("started elsewhere", 21, idle, {"yes", "2", "yes", "0.25"}, ready + " [4]\nWarmup stop, bar shown 25 \"Warmup is "
+        "running 25%...\", polling\nWarmup stop, bar shown 25 \"Warmup is running 25%...\", polling");
+    row("0.999 floors to 99", 21, warming, {"yes", "2", "yes", "0.999"}, started + QString(running).replace("40", "99"));
+    row("beyond 1 is full", 21, warming, {"yes", "2", "yes", "2e9"}, started + QString(running).replace("40", "100"));
+    row("below 0 is empty", 21, warming, {"yes", "2", "yes", "-0.3"}, started + QString(running).replace("40", "0"));
+    row("progress unknown: the bar kept", 21, warming, {"yes", "2", "yes", "-"}, started + running,
+        "Error: Unable to get warmup status");
+    row("progress not finite: the bar kept", 21, warming, {"yes", "2", "yes", "nan"}, started + running,
+        "Error: Unable to get warmup status");
+    row("ended by the controller", 21, warming, idle, started.section('\n', 0, 0) + '\n' + ready + '\n' + ready);
+    row("warm-up state unknown", 21, idle, {"yes", "2", "-", "0.4"}, ready + " [4]\n" + ready + '\n' + ready,
+        "Could not get warmup status");
+    row("the last sensor gone", 21, warming, {"yes", "0", "yes", "0.4"}, started.section('\n', 0, 0) + "\nWarmup stop "
+        "(off), bar hidden 40 \"\", polling\n" + off);
 }
 
-void tst_InertialStatusBar::availability()
+void tst_InertialStatusBar::polls()
 {
-    QFETCH(int, major);
     QFETCH(int, minor);
-    QFETCH(int, patch);
-    QFETCH(QByteArray, available);
-    QFETCH(QByteArray, count);
-    QFETCH(bool, expected);
-    QFETCH(QByteArrayList, lines);
+    QFETCH(QList<QByteArray>, before);
+    QFETCH(QList<QByteArray>, after);
+    QFETCH(QString, states);
+    QFETCH(QString, messages);
 
-    versions.major = major;
     versions.minor = minor;
-    versions.patch = patch;
-    script_controller(available, count, "no");
-    auto status = make();
-    QCOMPARE(button(*status)->isEnabled(), expected);
-    QCOMPARE(barAction(*status)->isVisible(), expected);
-
-    fake->clear_log();
-    QCOMPARE(status->is_inertial_available(), expected);
-    QCOMPARE(fake->lines(), lines);
-    QCOMPARE(fake->message_texts(), QStringList());
-}
-
-void tst_InertialStatusBar::construction_data()
-{
-    QTest::addColumn<QByteArray>("available");
-    QTest::addColumn<QByteArrayList>("counts");
-    QTest::addColumn<QByteArray>("warmup");
-    QTest::addColumn<QByteArray>("warmupStatus");
-    QTest::addColumn<QStringList>("messages");
-    QTest::addColumn<bool>("enabled");
-    QTest::addColumn<QString>("text");
-    QTest::addColumn<int>("value");
-    QTest::addColumn<QByteArrayList>("lines");
-
-    const QByteArrayList idle{Available, Count, Count, Warmup};
-    QTest::newRow("unavailable")
-        << QByteArray("no") << QByteArrayList{"2"} << QByteArray("no") << QByteArray("0")
-        << QStringList() << false << "Warmup start" << 0 << QByteArrayList{Available};
-    QTest::newRow("idle")
-        << QByteArray("yes") << QByteArrayList{"2"} << QByteArray("no") << QByteArray("0")
-        << QStringList() << true << "Warmup start" << 0 << idle;
-    QTest::newRow("already warming")
-        << QByteArray("yes") << QByteArrayList{"2"} << QByteArray("yes") << QByteArray("0.42")
-        << QStringList() << true << "Warmup stop" << 42
-        << idle + QByteArrayList{Available, Count, WarmupStatus};
-    QTest::newRow("count unreadable as a number")
-        << QByteArray("yes") << QByteArrayList{"2", "two"} << QByteArray("no") << QByteArray("0")
-        << QStringList{"Could not get number of sensors"} << true << "Warmup start" << 0 << idle;
-    QTest::newRow("warm-up state unknown")
-        << QByteArray("yes") << QByteArrayList{"2"} << QByteArray("<fail>") << QByteArray("0")
-        << QStringList{"Could not get warmup status"} << true << "Warmup start" << 0 << idle;
-}
-
-void tst_InertialStatusBar::construction()
-{
-    QFETCH(QByteArray, available);
-    QFETCH(QByteArrayList, counts);
-    QFETCH(QByteArray, warmup);
-    QFETCH(QByteArray, warmupStatus);
-    QFETCH(QStringList, messages);
-    QFETCH(bool, enabled);
-    QFETCH(QString, text);
-    QFETCH(int, value);
-    QFETCH(QByteArrayList, lines);
-
-    script_controller(available, QByteArray(), warmup, warmupStatus);
-    fake->replies(Count, counts);
-    auto status = make();
-
-    QCOMPARE(fake->lines(), lines);
-    QCOMPARE(fake->message_texts(), messages);
-    QCOMPARE(button(*status)->isEnabled(), enabled);
-    QCOMPARE(barAction(*status)->isVisible(), enabled);
-    QCOMPARE(button(*status)->text(), text);
-    QCOMPARE(timer(*status, "progressTimer")->isActive(), text == "Warmup stop");
-    QCOMPARE(bar(*status)->value(), value);
-    QVERIFY(timer(*status, "statusTimer")->isActive());
-}
-
-void tst_InertialStatusBar::pollFollowsController()
-{
-    script_controller("yes", "2", "no", "0");
-    auto status = make();
-    QTimer* progress = timer(*status, "progressTimer");
-
-    // Idle: the poll asks three things and changes nothing.
-    fake->clear_log();
-    status->update_status();
-    QCOMPARE(fake->lines(), (QByteArrayList{Available, Count, Warmup}));
-    QCOMPARE(button(*status)->text(), QStringLiteral("Warmup start"));
-    QVERIFY(!progress->isActive());
-
-    // A warm-up started elsewhere shows at the next poll, with its progress.
-    fake->reply(Warmup, "yes");
-    fake->reply(WarmupStatus, "0.25");
-    fake->clear_log();
-    status->update_status();
-    QCOMPARE(fake->lines(),
-             (QByteArrayList{Available, Count, Warmup, Available, Count, WarmupStatus}));
-    QCOMPARE(button(*status)->text(), QStringLiteral("Warmup stop"));
-    QVERIFY(progress->isActive());
-    QCOMPARE(bar(*status)->value(), 25);
-    QCOMPARE(bar(*status)->format(), Running);
-    QCOMPARE(bar(*status)->text(), QStringLiteral("Warmup is running 25%..."));
-
-    // While warming the status poll leaves the progress to its own timer.
-    fake->reply(WarmupStatus, "0.5");
-    fake->clear_log();
-    status->update_status();
-    QCOMPARE(fake->lines(), (QByteArrayList{Available, Count, Warmup}));
-    QCOMPARE(bar(*status)->value(), 25);
-    status->update_progress();
-    QCOMPARE(bar(*status)->value(), 50);
-
-    // The warm-up ends on the controller: back to idle, bar emptied.
-    fake->reply(Warmup, "no");
-    status->update_status();
-    QCOMPARE(button(*status)->text(), QStringLiteral("Warmup start"));
-    QVERIFY(!progress->isActive());
-    QCOMPARE(bar(*status)->value(), 0);
-    QCOMPARE(bar(*status)->format(), QString());
-    QVERIFY(button(*status)->isEnabled());
-    QCOMPARE(fake->message_texts(), QStringList());
-    QCOMPARE(fake->unexpected(), QByteArrayList());
-}
-
-void tst_InertialStatusBar::progress_data()
-{
-    QTest::addColumn<QByteArray>("reply");
-    QTest::addColumn<int>("value");
-    QTest::addColumn<QStringList>("messages");
-
-    const QStringList none;
-    const QStringList failed{"Error: Unable to get warmup status"};
-    QTest::newRow("0.999 floors to 99") << QByteArray("0.999") << 99 << none;
-    QTest::newRow("0.5 is 50") << QByteArray("0.5") << 50 << none;
-    QTest::newRow("0 is empty") << QByteArray("0") << 0 << none;
-    QTest::newRow("1 is full") << QByteArray("1") << 100 << none;
-    QTest::newRow("above 1 stays full") << QByteArray("2e9") << 100 << none;
-    QTest::newRow("below 0 stays empty") << QByteArray("-0.3") << 0 << none;
-    QTest::newRow("failed query keeps the bar") << QByteArray("<fail>") << 40 << failed;
-    QTest::newRow("not a number keeps the bar") << QByteArray("soon") << 40 << failed;
-    QTest::newRow("nan keeps the bar") << QByteArray("nan") << 40 << failed;
-}
-
-void tst_InertialStatusBar::progress()
-{
-    QFETCH(QByteArray, reply);
-    QFETCH(int, value);
-    QFETCH(QStringList, messages);
-
-    script_controller("yes", "3", "yes", "0.4");
-    auto status = make();
-    QCOMPARE(bar(*status)->value(), 40);
-
-    fake->forget(WarmupStatus);
-    script(WarmupStatus, reply);
-    fake->clear_log();
-    status->update_progress();
-    QCOMPARE(fake->lines(), (QByteArrayList{Available, Count, WarmupStatus}));
-    QCOMPARE(bar(*status)->value(), value);
-    QCOMPARE(fake->message_texts(), messages);
-    QVERIFY(timer(*status, "progressTimer")->isActive());
-}
-
-void tst_InertialStatusBar::losingAvailability()
-{
-    script_controller("yes", "2", "yes", "0.6");
-    auto status = make();
-    status->update_status();
-    QCOMPARE(bar(*status)->format(), Running);
-
-    // The last sensor goes: the status poll hides the bar and disables the
-    // button; the progress poll then ends the warm-up display.
-    fake->reply(Count, "0");
-    fake->clear_log();
-    status->update_status();
-    QCOMPARE(fake->lines(), (QByteArrayList{Available, Count}));
-    QVERIFY(!button(*status)->isEnabled());
-    QVERIFY(!barAction(*status)->isVisible());
-    QCOMPARE(bar(*status)->format(), QString());
-
-    fake->clear_log();
-    status->update_progress();
-    QCOMPARE(fake->lines(), (QByteArrayList{Available, Count}));
-    QVERIFY(!timer(*status, "progressTimer")->isActive());
-    QCOMPARE(button(*status)->text(), QStringLiteral("Warmup start"));
-    QCOMPARE(bar(*status)->value(), 0);
-    QVERIFY(!button(*status)->isEnabled());
-
-    // A sensor comes back: the bar reappears, idle.
-    fake->reply(Warmup, "no");
-    fake->reply(Count, "1");
-    status->update_status();
-    QVERIFY(button(*status)->isEnabled());
-    QVERIFY(barAction(*status)->isVisible());
-    QCOMPARE(button(*status)->text(), QStringLiteral("Warmup start"));
-    QCOMPARE(fake->message_texts(), QStringList());
-}
-
-void tst_InertialStatusBar::blockedChangesNothing_data()
-{
-    QTest::addColumn<QByteArray>("warmup");
-    QTest::addColumn<QString>("text");
-
-    QTest::newRow("idle") << QByteArray("no") << "Warmup start";
-    QTest::newRow("warming") << QByteArray("yes") << "Warmup stop";
-}
-
-void tst_InertialStatusBar::blockedChangesNothing()
-{
-    QFETCH(QByteArray, warmup);
-    QFETCH(QString, text);
-
-    script_controller("yes", "2", warmup, "0.4");
-    fake->accept("inertial warmup yes");
-    fake->accept("inertial warmup no");
-    auto status = make();
-    status->update_status();
-    const QString format = bar(*status)->format();
-    const int value = bar(*status)->value();
-    const bool warming = timer(*status, "progressTimer")->isActive();
-
-    // Whatever the controller would now say, nothing is asked or shown.
-    fake->set_blocked(true);
-    fake->reply(Available, "no");
-    fake->reply(Warmup, warmup == "yes" ? "no" : "yes");
-    fake->clear_log();
-    status->update_status();
-    status->update_progress();
-    button(*status)->click();
-    QCOMPARE(fake->calls().size(), 0);
-    QCOMPARE(fake->message_texts(), QStringList());
-    QVERIFY(button(*status)->isEnabled());
-    QVERIFY(barAction(*status)->isVisible());
-    QCOMPARE(button(*status)->text(), text);
-    QCOMPARE(bar(*status)->format(), format);
-    QCOMPARE(bar(*status)->value(), value);
-    QCOMPARE(timer(*status, "progressTimer")->isActive(), warming);
-
-    fake->set_blocked(false);
-    status->update_status();
-    QVERIFY(!button(*status)->isEnabled());
+    answer(before);
+    status = std::make_unique<InertialStatusBar>(fake, window, &versions);
+    QStringList seen{state() + QString(" [%1]").arg(fake->lines().size())};
+    answer(after);
+    // The bar's own timers drive the polls, as they do in the host.
+    QCOMPARE(timer("statusTimer")->interval() + timer("progressTimer")->interval(), 6000);
+    QMetaObject::invokeMethod(timer("statusTimer"), "timeout");
+    seen << state();
+    if (timer("progressTimer")->isActive())
+        QMetaObject::invokeMethod(timer("progressTimer"), "timeout");
+    seen << state();
+    QCOMPARE(seen.join('\n'), states);
+    QCOMPARE(fake->message_texts().join('\n'), messages);
+    QVERIFY(timer("statusTimer")->isActive());
+    // Leaving stops the progress poll, the status poll only while there is something to warm.
+    status->about_to_exit();
+    QCOMPARE(timer("progressTimer")->isActive() + timer("statusTimer")->isActive(), states.endsWith("(off), bar hidden 0 "
+                                                                                                    "\"\", idle"));
 }
 
 void tst_InertialStatusBar::button_data()
 {
-    QTest::addColumn<bool>("warming");
+    QTest::addColumn<QByteArray>("warmup");
     QTest::addColumn<bool>("accepted");
-    QTest::addColumn<QByteArrayList>("lines");
-    QTest::addColumn<QStringList>("messages");
-    QTest::addColumn<QString>("text");
-    QTest::addColumn<int>("value");
+    QTest::addColumn<QString>("state");   // and the messages
 
-    const QByteArray yes = "inertial warmup yes";
-    const QByteArray no = "inertial warmup no";
-    QTest::newRow("start accepted") << false << true
-                                    << QByteArrayList{yes, Available, Count, WarmupStatus}
-                                    << QStringList() << "Warmup stop" << 10;
-    QTest::newRow("start refused") << false << false << QByteArrayList{yes}
-                                   << QStringList{"Could not start warmup of sensors"}
-                                   << "Warmup start" << 0;
-    QTest::newRow("stop accepted") << true << true << QByteArrayList{no} << QStringList()
-                                   << "Warmup start" << 0;
-    QTest::newRow("stop refused") << true << false << QByteArrayList{no}
-                                  << QStringList{"Could not stop warmup of sensors"}
-                                  << "Warmup stop" << 40;
+    QTest::newRow("start: the progress read at once") << QByteArray("no") << true << "Warmup stop, bar shown 10 \"\", "
+                                                                                     "polling";
+    QTest::newRow("start refused") << QByteArray("no") << false << "Warmup start, bar shown 0 \"\", idle\nCould not start "
+                                                                   "warmup of sensors";
+    QTest::newRow("stop") << QByteArray("yes") << true << "Warmup start, bar shown 0 \"Warmup is running 0%...\", idle";
+    QTest::newRow("stop refused") << QByteArray("yes") << false << "Warmup stop, bar shown 40 \"Warmup is running 40%...\", "
+                                                                   "polling\nCould not stop warmup of sensors";
 }
 
 void tst_InertialStatusBar::button()
 {
-    QFETCH(bool, warming);
+    QFETCH(QByteArray, warmup);
     QFETCH(bool, accepted);
-    QFETCH(QByteArrayList, lines);
-    QFETCH(QStringList, messages);
-    QFETCH(QString, text);
-    QFETCH(int, value);
+    QFETCH(QString, state);
 
-    script_controller("yes", "2", warming ? "yes" : "no", "0.4");
-    auto status = make();
-    const QByteArray setting = lines.first();
-    if (accepted)
-        fake->accept(setting);
-    else
-        fake->fail(setting);
-    fake->reply(WarmupStatus, "0.1");
+    answer({"yes", "2", warmup, "0.4"});
+    status = std::make_unique<InertialStatusBar>(fake, window, &versions);
+    status->update_status();
+    const QByteArray setting = warmup == "yes" ? "inertial warmup no" : "inertial warmup yes";
+    accepted ? fake->accept(setting) : fake->fail(setting);
+    fake->reply("inertial warmup_status", "0.1");
     fake->clear_log();
-
-    QTest::mouseClick(button(*status), Qt::LeftButton);
-
-    QCOMPARE(fake->lines(), lines);
-    // The switch goes out under the long time-out it needs.
-    const QList<FakeController::Call>& calls = fake->calls();
-    QCOMPARE(calls.first().operation, FakeController::SetTimeout);
-    const FakeController::Call& set = calls.at(1);
-    QCOMPARE(set.operation, FakeController::SetValue);
-    QCOMPARE(set.wait_separately, false);
-    QCOMPARE(set.timeout_ms, 10000);
-    QCOMPARE(set.timeout_flag, true);
-
-    QCOMPARE(fake->message_texts(), messages);
-    for (const FakeController::Message& message : fake->messages()) {
-        QCOMPARE(message.target, QStringLiteral("standard"));
-        QCOMPARE(message.source, QStringLiteral("Norvane"));
-        QCOMPARE(message.type, 1);
-    }
-    QCOMPARE(button(*status)->text(), text);
-    QCOMPARE(timer(*status, "progressTimer")->isActive(), text == "Warmup stop");
-    QCOMPARE(bar(*status)->value(), value);
+    QTest::mouseClick(status->findChild<QToolButton*>("pushButton_startWarmup"), Qt::LeftButton);
+    QCOMPARE(fake->lines().value(0), setting);
+    // The switch reaches every sensor by radio: it goes out under a long time-out.
+    const FakeController::Call& call = fake->calls().value(1);
+    QVERIFY(!call.wait_separately && call.timeout_ms == 10000 && call.timeout_flag);
+    QCOMPARE(QStringList(this->state()) + fake->message_texts(), state.split('\n'));
+    for (const FakeController::Message& message : fake->messages())
+        QCOMPARE(message.target + message.source + QString::number(message.type), QString("standardNorvane1"));
 }
 
-void tst_InertialStatusBar::aboutToExit_data()
+void tst_InertialStatusBar::blockedChangesNothing()
 {
-    QTest::addColumn<QByteArray>("count");
-    QTest::addColumn<bool>("statusRuns");
-
-    QTest::newRow("available stops both") << QByteArray("2") << false;
-    QTest::newRow("unavailable keeps polling status") << QByteArray("0") << true;
-}
-
-void tst_InertialStatusBar::aboutToExit()
-{
-    QFETCH(QByteArray, count);
-    QFETCH(bool, statusRuns);
-
-    script_controller("yes", "2", "yes", "0.3");
-    auto status = make();
-    QVERIFY(timer(*status, "progressTimer")->isActive());
-
-    fake->reply(Count, count);
-    status->about_to_exit();
-    QVERIFY(!timer(*status, "progressTimer")->isActive());
-    QCOMPARE(timer(*status, "statusTimer")->isActive(), statusRuns);
-}
-
-void tst_InertialStatusBar::timersDrivePolls()
-{
-    script_controller("yes", "2", "no", "0.7");
-    auto status = make();
-    QTimer* poll = timer(*status, "statusTimer");
-    QTimer* progress = timer(*status, "progressTimer");
-    poll->setInterval(0);
-
-    fake->reply(Warmup, "yes");
-    QTRY_COMPARE(button(*status)->text(), QStringLiteral("Warmup stop"));
-    QCOMPARE(bar(*status)->value(), 70);
-    poll->stop();
-
-    progress->setInterval(0);
-    fake->reply(WarmupStatus, "0.8");
-    QTRY_COMPARE(bar(*status)->value(), 80);
+    answer({"yes", "2", "yes", "0.4"});
+    status = std::make_unique<InertialStatusBar>(fake, window, &versions);
+    status->update_status();
+    const QString before = state();
+    // Whatever the controller would say now, nothing is asked or shown.
+    fake->set_blocked(true);
+    answer({"no", "0", "no", "0.9"});
+    fake->clear_log();
+    status->update_status();
+    status->update_progress();
+    status->findChild<QToolButton*>("pushButton_startWarmup")->click();
+    QCOMPARE(fake->calls().size(), 0);
+    QCOMPARE(state(), before);
+    fake->set_blocked(false);
+    status->update_status();
+    QCOMPARE(state(), QString("Warmup stop (off), bar hidden 40 \"\", polling"));
 }
 
 QTEST_MAIN(tst_InertialStatusBar)

@@ -1,79 +1,43 @@
 #include "FakeController.h"
 
-#include <QtGlobal>
+#include <QVariant>
+#include <QVector>
 
 #include <cstring>
 
 #include "host/LineFormatter.h"
 #include "module/MessageReceiver.h"
 
+// Every operation with a format turns it into its line first, as a host
+// does, and asks the script for the answer.
+#define FAKE_ANSWER(operation)                                    \
+    va_list args;                                                 \
+    va_start(args, format);                                       \
+    const QByteArray line = LineFormatter::format(format, args); \
+    va_end(args);                                                 \
+    QByteArray text;                                              \
+    const int result = answer(operation, line, &text)
+
 namespace {
 
-QByteArray format_args(const char* format, va_list args)
+// The first `count` words of a reply as numbers; nothing is written unless
+// every one converts, as a host's readers do.
+template <class T>
+int read_numbers(int result, const QByteArray& text, int count, T* values)
 {
-    return LineFormatter::format(format, args);
-}
-
-bool to_double(const QByteArray& text, double* value)
-{
-    bool ok = false;
-    const double parsed = text.trimmed().toDouble(&ok);
-    if (ok)
-        *value = parsed;
-    return ok;
+    const QList<QByteArray> words = text.simplified().split(' ');
+    QVector<T> parsed;
+    for (int i = 0; i < count && result == 0; ++i) {
+        QVariant word(QString::fromLatin1(words.value(i)));
+        result = word.convert(qMetaTypeId<T>()) ? 0 : 3;
+        parsed << word.value<T>();
+    }
+    if (result == 0 && count > 0)
+        std::copy(parsed.cbegin(), parsed.cend(), values);
+    return result != 0 || count > 0 ? result : 3;
 }
 
 } // namespace
-
-FakeController::FakeController() = default;
-FakeController::~FakeController() = default;
-
-void FakeController::reply(const QByteArray& line, const QByteArray& answer, int result)
-{
-    Script entry;
-    entry.answers << answer;
-    entry.result = result;
-    script.insert(line, entry);
-}
-
-void FakeController::replies(const QByteArray& line, const QList<QByteArray>& answers)
-{
-    Script entry;
-    entry.answers = answers;
-    script.insert(line, entry);
-}
-
-void FakeController::fail(const QByteArray& line, int result)
-{
-    Script entry;
-    entry.result = result;
-    script.insert(line, entry);
-}
-
-void FakeController::accept(const QByteArray& setting)
-{
-    reply(setting, QByteArray(), 0);
-}
-
-void FakeController::forget(const QByteArray& line)
-{
-    script.remove(line);
-}
-
-void FakeController::set_stateful(bool on)
-{
-    stateful = on;
-}
-
-void FakeController::set_blocked(bool on)
-{
-    blocked = on;
-}
-
-void FakeController::set_completion_result(int result)
-{
-    completion_result = result;
-}
 
 QList<QByteArray> FakeController::lines() const
 {
@@ -91,14 +55,6 @@ QList<QByteArray> FakeController::lines(Operation operation) const
         if (call.operation == operation)
             result << call.line;
     return result;
-}
-
-int FakeController::count(const QByteArray& line) const
-{
-    int n = 0;
-    for (const Call& call : call_log)
-        n += call.line == line ? 1 : 0;
-    return n;
 }
 
 QStringList FakeController::message_texts() const
@@ -122,24 +78,21 @@ int FakeController::deliver(const QString& name, int type, const char* sender, c
     return target ? target->transmit_message(type, sender, text) : -1;
 }
 
-void FakeController::record(Operation operation, const QByteArray& line)
+int FakeController::answer(Operation operation, const QByteArray& line, QByteArray* text)
 {
     call_log << Call{operation, line, wait_separately, timeout_ms, timeout_flag};
-}
-
-int FakeController::answer(const QByteArray& line, QByteArray* text)
-{
     ++trips;
     auto it = script.find(line);
     if (it == script.end()) {
+        // In stateful mode a setting of a scripted path needs no script.
+        if (stateful && operation == SetValue && apply_setting(line))
+            return 0;
         unexpected_lines << line;
         return 1;
     }
     Script& entry = it.value();
-    if (!entry.answers.isEmpty()) {
-        *text = entry.answers.at(qMin(entry.next, entry.answers.size() - 1));
-        ++entry.next;
-    }
+    if (!entry.answers.isEmpty())
+        *text = entry.answers.at(qMin(entry.next++, entry.answers.size() - 1));
     if (entry.result != NaturalResult)
         return entry.result;
     return entry.answers.isEmpty() ? 1 : 0;
@@ -147,6 +100,7 @@ int FakeController::answer(const QByteArray& line, QByteArray* text)
 
 int FakeController::copy_reply(const QByteArray& text, char* reply) const
 {
+    // Like a host: a reply that does not fit is a failure, never cut short.
     if (text.size() >= ReplyCapacity)
         return 2;
     if (reply)
@@ -159,19 +113,15 @@ bool FakeController::apply_setting(const QByteArray& line)
     // The longest scripted query that the setting starts with is the path;
     // what follows the blank is the new value.
     QByteArray path;
-    for (auto it = script.constBegin(); it != script.constEnd(); ++it) {
-        const QByteArray& candidate = it.key();
-        if (candidate.size() > path.size() && line.size() > candidate.size() + 1
-            && line.startsWith(candidate) && line.at(candidate.size()) == ' ')
-            path = candidate;
-    }
-    if (path.isEmpty())
-        return false;
+    for (auto it = script.constBegin(); it != script.constEnd(); ++it)
+        if (it.key().size() > path.size() && line.startsWith(it.key() + ' ') && line.size() > it.key().size() + 1)
+            path = it.key();
     QByteArray value = line.mid(path.size() + 1);
     if (value.size() >= 2 && value.startsWith('"') && value.endsWith('"'))
         value = value.mid(1, value.size() - 2);
-    reply(path, value);
-    return true;
+    if (!path.isEmpty())
+        reply(path, value);
+    return !path.isEmpty();
 }
 
 void FakeController::set_timeout(bool separately, int milliseconds, bool flag)
@@ -179,188 +129,91 @@ void FakeController::set_timeout(bool separately, int milliseconds, bool flag)
     wait_separately = separately;
     timeout_ms = milliseconds;
     timeout_flag = flag;
-    record(SetTimeout, QByteArray());
+    call_log << Call{SetTimeout, QByteArray(), wait_separately, timeout_ms, timeout_flag};
 }
 
 int FakeController::send_command(char* reply, const char* format, ...)
 {
-    va_list args;
-    va_start(args, format);
-    const QByteArray line = format_args(format, args);
-    va_end(args);
-    record(SendCommand, line);
-
+    FAKE_ANSWER(SendCommand);
+    const int scripted = script.value(line, Script{}).result;
     // A command after set_timeout(true, ...) goes out and is finished by
     // wait_for_completion; the setting holds for that one command.
     const bool asynchronous = wait_separately;
     wait_separately = false;
-
-    QByteArray text;
-    const int scripted = script.contains(line) ? script.value(line).result : NaturalResult;
-    int result = answer(line, &text);
     if (asynchronous && result == 0 && scripted == NaturalResult) {
         pending = true;
         pending_reply = reply;
         pending_answer = text;
         return 1;
     }
-    if (result == 0 || scripted != NaturalResult) {
-        const int copied = copy_reply(text, reply);
-        if (result == 0)
-            result = copied;
-    }
-    return result;
+    const int copied = result == 0 || scripted != NaturalResult ? copy_reply(text, reply) : 0;
+    return result == 0 ? copied : result;
 }
 
 int FakeController::wait_for_completion(int* status)
 {
-    record(WaitForCompletion, QByteArray());
+    call_log << Call{WaitForCompletion, QByteArray(), wait_separately, timeout_ms, timeout_flag};
     if (!pending)
         return 1;
     pending = false;
-    if (completion_result != 0) {
-        if (status)
-            *status = completion_result;
-        return completion_result;
-    }
-    return copy_reply(pending_answer, pending_reply);
+    if (completion_result == 0)
+        return copy_reply(pending_answer, pending_reply);
+    if (status)
+        *status = completion_result;
+    return completion_result;
 }
 
 int FakeController::get_string(char* reply, const char* format, ...)
 {
-    va_list args;
-    va_start(args, format);
-    const QByteArray line = format_args(format, args);
-    va_end(args);
-    record(GetString, line);
-    QByteArray text;
-    const int result = answer(line, &text);
+    FAKE_ANSWER(GetString);
     return result != 0 ? result : copy_reply(text, reply);
 }
 
 int FakeController::get_int(int* value, const char* format, ...)
 {
-    va_list args;
-    va_start(args, format);
-    const QByteArray line = format_args(format, args);
-    va_end(args);
-    record(GetInt, line);
-    QByteArray text;
-    int result = answer(line, &text);
-    if (result != 0)
-        return result;
-    bool ok = false;
-    const int parsed = text.trimmed().toInt(&ok);
-    if (!ok)
-        return 3;
-    *value = parsed;
-    return 0;
+    FAKE_ANSWER(GetInt);
+    return read_numbers(result, text, 1, value);
 }
 
 int FakeController::get_double(double* value, const char* format, ...)
 {
-    va_list args;
-    va_start(args, format);
-    const QByteArray line = format_args(format, args);
-    va_end(args);
-    record(GetDouble, line);
-    QByteArray text;
-    int result = answer(line, &text);
-    if (result != 0)
-        return result;
-    return to_double(text, value) ? 0 : 3;
+    FAKE_ANSWER(GetDouble);
+    return read_numbers(result, text, 1, value);
 }
 
 int FakeController::get_bool(bool* value, const char* format, ...)
 {
-    va_list args;
-    va_start(args, format);
-    const QByteArray line = format_args(format, args);
-    va_end(args);
-    record(GetBool, line);
-    QByteArray text;
-    int result = answer(line, &text);
-    if (result != 0)
-        return result;
+    FAKE_ANSWER(GetBool);
     text = text.trimmed();
-    if (text != "yes" && text != "no")
-        return 3;
+    if (result != 0 || (text != "yes" && text != "no"))
+        return result != 0 ? result : 3;
     *value = text == "yes";
     return 0;
 }
 
 int FakeController::get_doubles(double* values, int count, const char* format, ...)
 {
-    va_list args;
-    va_start(args, format);
-    const QByteArray line = format_args(format, args);
-    va_end(args);
-    record(GetDoubles, line);
-    QByteArray text;
-    int result = answer(line, &text);
-    if (result != 0)
-        return result;
-    const QList<QByteArray> words = text.simplified().split(' ');
-    if (count <= 0 || words.size() < count)
-        return 3;
-    QVector<double> parsed(count);
-    for (int i = 0; i < count; ++i)
-        if (!to_double(words.at(i), &parsed[i]))
-            return 3;
-    std::copy(parsed.cbegin(), parsed.cend(), values);
-    return 0;
+    FAKE_ANSWER(GetDoubles);
+    return read_numbers(result, text, count, values);
 }
 
 int FakeController::get_ints(int* values, int count, const char* format, ...)
 {
-    va_list args;
-    va_start(args, format);
-    const QByteArray line = format_args(format, args);
-    va_end(args);
-    record(GetInts, line);
-    QByteArray text;
-    int result = answer(line, &text);
-    if (result != 0)
-        return result;
-    const QList<QByteArray> words = text.simplified().split(' ');
-    if (count <= 0 || words.size() < count)
-        return 3;
-    QVector<int> parsed(count);
-    for (int i = 0; i < count; ++i) {
-        bool ok = false;
-        parsed[i] = words.at(i).toInt(&ok);
-        if (!ok)
-            return 3;
-    }
-    std::copy(parsed.cbegin(), parsed.cend(), values);
-    return 0;
+    FAKE_ANSWER(GetInts);
+    return read_numbers(result, text, count, values);
 }
 
 int FakeController::set_value(const char* format, ...)
 {
-    va_list args;
-    va_start(args, format);
-    const QByteArray line = format_args(format, args);
-    va_end(args);
-    record(SetValue, line);
-    if (!script.contains(line) && stateful) {
-        ++trips;
-        if (apply_setting(line))
-            return 0;
-        unexpected_lines << line;
-        return 1;
-    }
-    QByteArray ignored;
-    const int result = answer(line, &ignored);
-    if (result == 0 && stateful)
+    FAKE_ANSWER(SetValue);
+    if (result == 0 && stateful && script.contains(line))
         apply_setting(line);
     return result;
 }
 
 void FakeController::show_message(const char* target, const char* source, int type, const char* text)
 {
-    message_log << Message{QString::fromLatin1(target), QString::fromLatin1(source), type,
-                           QString::fromLatin1(text)};
+    message_log << Message{QString::fromLatin1(target), QString::fromLatin1(source), type, QString::fromLatin1(text)};
 }
 
 void FakeController::register_receiver(const char* name, MessageReceiver* receiver)
@@ -370,7 +223,6 @@ void FakeController::register_receiver(const char* name, MessageReceiver* receiv
 
 void FakeController::unregister_receiver(const char* name, MessageReceiver* receiver)
 {
-    const QString key = QString::fromLatin1(name);
-    if (receivers.value(key) == receiver)
-        receivers.remove(key);
+    if (receivers.value(QString::fromLatin1(name)) == receiver)
+        receivers.remove(QString::fromLatin1(name));
 }

@@ -11,81 +11,49 @@
 
 // A scripted controller for dialog tests. It formats every call's line as a
 // host does, records each call in order with the time-out settings in force,
-// and answers from a script:
-//
-//   fake.reply("inertial number_of_sensors", "2");              // every time
-//   fake.replies("inertial warmup_status", {"0.1", "0.5", "1"}); // in turn, the last repeats
-//   fake.fail("inertial sensor d02");                           // non-zero result
-//   fake.accept("inertial warmup yes");                         // a setting that succeeds
-//
-// A line that the script does not know fails and is listed in unexpected().
-// In stateful mode a setting "P V" of a scripted query P succeeds and makes
-// later queries of P answer V, as the controller would.
+// and answers from a script: reply(line, answer) every time, replies(line,
+// answers) in turn with the last repeating, fail(line) with a non-zero
+// result, accept(setting) for a setting that succeeds. A line that the script
+// does not know fails and is listed in unexpected(). In stateful mode a
+// setting "P V" of a scripted query P succeeds and makes later queries of P
+// answer V, as the controller would.
 class FakeController : public IOManager
 {
 public:
-    enum Operation {
-        SetTimeout,
-        SendCommand,
-        WaitForCompletion,
-        GetString,
-        GetInt,
-        GetDouble,
-        GetBool,
-        GetDoubles,
-        GetInts,
-        SetValue,
-    };
+    enum Operation { SetTimeout, SendCommand, WaitForCompletion, GetString, GetInt, GetDouble, GetBool,
+                     GetDoubles, GetInts, SetValue };
 
-    struct Call
-    {
-        Operation operation;
-        QByteArray line;          // empty for SetTimeout and WaitForCompletion
-        bool wait_separately;     // time-out settings in force for this call
-        int timeout_ms;
-        bool timeout_flag;
-    };
-
-    struct Message
-    {
-        QString target;
-        QString source;
-        int type;
-        QString text;
-    };
+    // One call with the time-out settings in force for it; no line for SetTimeout and WaitForCompletion.
+    struct Call { Operation operation; QByteArray line; bool wait_separately; int timeout_ms; bool timeout_flag; };
+    struct Message { QString target; QString source; int type; QString text; };
 
     // Result a scripted line gives when it is not told otherwise.
     static constexpr int NaturalResult = -1000;
 
-    FakeController();
-    ~FakeController() override;
-
-    // --- script -----------------------------------------------------------
-    void reply(const QByteArray& line, const QByteArray& answer, int result = NaturalResult);
-    void replies(const QByteArray& line, const QList<QByteArray>& answers);
-    void fail(const QByteArray& line, int result = 1);
-    void accept(const QByteArray& setting);
-    void forget(const QByteArray& line);
-    void set_stateful(bool stateful);
-    void set_blocked(bool blocked);
+    void reply(const QByteArray& line, const QByteArray& answer, int result = NaturalResult)
+    { script.insert(line, Script{{answer}, 0, result}); }
+    void replies(const QByteArray& line, const QList<QByteArray>& answers)
+    { script.insert(line, Script{answers, 0, NaturalResult}); }
+    void fail(const QByteArray& line, int result = 1) { script.insert(line, Script{{}, 0, result}); }
+    void accept(const QByteArray& setting) { reply(setting, QByteArray(), 0); }
+    void forget(const QByteArray& line) { script.remove(line); }
+    void set_stateful(bool on) { stateful = on; }
+    void set_blocked(bool on) { blocked = on; }
     // Result of wait_for_completion for the pending asynchronous command.
-    void set_completion_result(int result);
+    void set_completion_result(int result) { completion_result = result; }
 
-    // --- what happened ----------------------------------------------------
     const QList<Call>& calls() const { return call_log; }
     QList<QByteArray> lines() const;                       // every line, in order
     QList<QByteArray> lines(Operation operation) const;    // lines of one operation
-    int count(const QByteArray& line) const;               // how often a line went out
+    int count(const QByteArray& line) const { return lines().count(line); }   // how often a line went out
     QList<QByteArray> unexpected() const { return unexpected_lines; }
     const QList<Message>& messages() const { return message_log; }
     QStringList message_texts() const;
     void clear_log();
 
-    // --- receivers --------------------------------------------------------
     MessageReceiver* receiver(const QString& name) const { return receivers.value(name); }
     int deliver(const QString& name, int type, const char* sender, const char* text);
 
-    // --- IOManager --------------------------------------------------------
     bool is_blocked() override { return blocked; }
     void set_timeout(bool wait_separately, int milliseconds, bool flag) override;
     int send_command(char* reply, const char* format, ...) override;
@@ -103,16 +71,10 @@ public:
     void unregister_receiver(const char* name, MessageReceiver* receiver) override;
 
 private:
-    struct Script
-    {
-        QList<QByteArray> answers;
-        int next = 0;
-        int result = NaturalResult;
-    };
+    struct Script { QList<QByteArray> answers; int next = 0; int result = NaturalResult; };
 
-    void record(Operation operation, const QByteArray& line);
-    // The scripted answer of a line: its result, and the text in *answer.
-    int answer(const QByteArray& line, QByteArray* answer);
+    // Records the call; its scripted result, and the answer in *text.
+    int answer(Operation operation, const QByteArray& line, QByteArray* text);
     int copy_reply(const QByteArray& text, char* reply) const;
     bool apply_setting(const QByteArray& line);
 
@@ -123,12 +85,12 @@ private:
     QHash<QString, MessageReceiver*> receivers;
     bool stateful = false;
     bool blocked = false;
-    bool wait_separately = false;
+    bool wait_separately = false;   // the time-out settings in force
     int timeout_ms = 0;
     bool timeout_flag = false;
+    bool pending = false;           // an asynchronous command waits for wait_for_completion
     char* pending_reply = nullptr;
     QByteArray pending_answer;
-    bool pending = false;
     int completion_result = 0;
     long trips = 0;
 };

@@ -4,9 +4,12 @@
 #include <QApplication>
 #include <QDialog>
 #include <QMessageBox>
-#include <QWidget>
 
 namespace {
+
+// A dialog that never appears must not hang the test: after this long the
+// helper stops looking and stays pending for the test's cleanup to report.
+constexpr qint64 PatienceMs = 10000;
 
 QList<ModalDialogHelper*>& queue()
 {
@@ -14,14 +17,9 @@ QList<ModalDialogHelper*>& queue()
     return helpers;
 }
 
-// A dialog that never appears must not hang the test: after this long the
-// helper stops looking and stays pending for the test's cleanup to report.
-constexpr qint64 PatienceMs = 10000;
-
 } // namespace
 
-ModalDialogHelper::ModalDialogHelper(Action a, Match m)
-    : action(std::move(a)), match(std::move(m))
+ModalDialogHelper::ModalDialogHelper(Action a, Match m) : action(std::move(a)), match(std::move(m))
 {
     timer.setInterval(0);
     connect(&timer, &QTimer::timeout, this, &ModalDialogHelper::poll);
@@ -29,10 +27,9 @@ ModalDialogHelper::ModalDialogHelper(Action a, Match m)
 
 void ModalDialogHelper::when_active(Action action, Match match)
 {
-    auto* helper = new ModalDialogHelper(std::move(action), std::move(match));
-    queue().append(helper);
+    queue().append(new ModalDialogHelper(std::move(action), std::move(match)));
     if (queue().size() == 1)
-        helper->timer.start();
+        queue().first()->timer.start();
 }
 
 void ModalDialogHelper::when_active(const char* class_name, Action action)
@@ -47,10 +44,9 @@ void ModalDialogHelper::poll()
     if (!modal || !modal->isVisible() || (match && !match(modal))) {
         if (!waiting.isValid())
             waiting.start();
-        if (!waiting.hasExpired(PatienceMs))
-            return;
-        timer.stop();
-        return;   // stays queued: pending() reports it
+        if (waiting.hasExpired(PatienceMs))
+            timer.stop();   // stays queued: pending() reports it
+        return;
     }
     timer.stop();
     queue().removeOne(this);
@@ -74,9 +70,7 @@ void ModalDialogHelper::close(QWidget* modal)
 void ModalDialogHelper::press(QWidget* modal, int standard_button)
 {
     auto* box = qobject_cast<QMessageBox*>(modal);
-    if (!box)
-        return;
-    if (QAbstractButton* button = box->button(QMessageBox::StandardButton(standard_button)))
+    if (QAbstractButton* button = box ? box->button(QMessageBox::StandardButton(standard_button)) : nullptr)
         button->click();
 }
 
@@ -94,11 +88,8 @@ void ModalDialogHelper::clear_pending()
 QStringList ModalDialogHelper::leaked_windows()
 {
     QStringList leaked;
-    for (QWidget* w : QApplication::topLevelWidgets()) {
-        if (w->windowType() == Qt::Desktop)
-            continue;
-        leaked << QStringLiteral("%1 \"%2\"").arg(QString::fromLatin1(w->metaObject()->className()),
-                                                   w->windowTitle());
-    }
+    for (QWidget* w : QApplication::topLevelWidgets())
+        if (w->windowType() != Qt::Desktop)
+            leaked << QString("%1 \"%2\"").arg(QString::fromLatin1(w->metaObject()->className()), w->windowTitle());
     return leaked;
 }

@@ -10,15 +10,13 @@
 
 class QWidget;
 
-// Acts on a modal dialog once it runs. A dialog test calls, before the
-// blocking exec() or update_and_exec():
-//
+// Acts on a modal dialog once it runs: a test calls, before the blocking
+// exec() or update_and_exec(),
 //   ModalDialogHelper::when_active([&](QWidget* w) { ...; ModalDialogHelper::close(w); });
-//
 // The action runs once, inside the dialog's own event loop, on the first
 // active modal widget that `match` accepts (any by default). Actions queue:
-// a second one waits for the next matching modal widget, for example a
-// message box that the first action opens.
+// a second one waits for the next matching modal widget, such as a message
+// box that the first action opens.
 class ModalDialogHelper : public QObject
 {
     Q_OBJECT
