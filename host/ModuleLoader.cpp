@@ -1,10 +1,13 @@
 #include "ModuleLoader.h"
 
+#include <QCoreApplication>
 #include <QDir>
 #include <QFileInfo>
 #include <QJsonObject>
 #include <QLibrary>
 #include <QPluginLoader>
+
+#include <algorithm>
 
 #include "HostLog.h"
 #include "module/ModuleInterface.h"
@@ -16,6 +19,19 @@ ModuleLoader::ModuleLoader(QObject* parent) : QObject(parent)
 ModuleLoader::~ModuleLoader()
 {
     unload_all();
+}
+
+QStringList ModuleLoader::default_folders()
+{
+    const QString own = QCoreApplication::applicationDirPath();
+    const QStringList candidates{own, QDir::cleanPath(own + QStringLiteral("/" NORVANE_PLUGIN_RELATIVE_DIR))};
+    QStringList found;
+    for (const QString& folder : candidates) {
+        const QStringList files = QDir(folder).entryList(QDir::Files | QDir::Readable);
+        if (std::any_of(files.begin(), files.end(), [](const QString& name) { return QLibrary::isLibrary(name); }))
+            found << folder;
+    }
+    return found.isEmpty() ? candidates.mid(0, 1) : found;
 }
 
 void ModuleLoader::report(const QString& problem)

@@ -1,0 +1,72 @@
+#!/usr/bin/env bash
+# Builds the Debian package in a build folder (default: build), lists it,
+# unpacks it into a temporary root and tries the unpacked product the way a
+# new machine would: the unpacked host must find the unpacked plug-in and save
+# every picture of its tour, in English and in German, and send the controller
+# the same lines in both languages. The German catalogue must be complete.
+set -euo pipefail
+cd "$(dirname "$0")/.."
+dir=${1:-build}
+export QT_QPA_PLATFORM=offscreen
+unset DISPLAY WAYLAND_DISPLAY
+
+fail() { echo "package-check: $*" >&2; exit 1; }
+
+echo "== translations"
+for ts in translations/*.ts; do
+    report=$(lrelease "$ts" -qm /dev/null 2>&1)
+    echo "$ts: $report"
+    grep -q ' 0 unfinished' <<<"$report" || fail "$ts has unfinished translations"
+    ! grep -q 'untranslated' <<<"$report" || fail "$ts has untranslated texts"
+done
+
+echo "== package"
+cmake --build "$dir" -j "$(nproc)" --target norvane-host norvane-simd InertialTracking translations
+rm -f "$dir"/norvane-inertial_*.deb
+(cd "$dir" && cpack -G DEB >/dev/null)
+debs=("$dir"/norvane-inertial_*.deb)
+[ ${#debs[@]} -eq 1 ] && [ -f "${debs[0]}" ] || fail "cpack made no single norvane-inertial package"
+deb=${debs[0]}
+dpkg-deb -I "$deb"
+dpkg-deb -c "$deb"
+depends=$(dpkg-deb -f "$deb" Depends)
+grep -q 'libqt5widgets5' <<<"$depends" || fail "Depends was not computed from the binaries: '$depends'"
+[ "$(dpkg-deb -f "$deb" Version)" = "$(sed -n 's/^project([^)]*VERSION \([0-9.]*\).*/\1/p' CMakeLists.txt)" ] \
+    || fail "the package's version is not the project's"
+
+root=$(mktemp -d)
+trap 'rm -rf "$root"' EXIT
+dpkg-deb -x "$deb" "$root"
+multiarch=$(dpkg-architecture -qDEB_HOST_MULTIARCH 2>/dev/null || gcc -print-multiarch)
+for f in usr/bin/norvane-host usr/bin/norvane-simd "usr/lib/$multiarch/norvane/plugins/libInertialTracking.so" \
+         usr/share/applications/norvane-host.desktop usr/share/icons/hicolor/64x64/apps/norvane-host.png \
+         usr/share/norvane/translations/norvane_de.qm usr/share/norvane/scenarios/default.json \
+         usr/share/doc/norvane-inertial/README.md; do
+    [ -f "$root/$f" ] || fail "the package lacks /$f"
+done
+grep -q '^Exec=norvane-host$' "$root/usr/share/applications/norvane-host.desktop" || fail "the menu entry does not start norvane-host"
+if command -v desktop-file-validate >/dev/null; then
+    desktop-file-validate "$root/usr/share/applications/norvane-host.desktop"
+fi
+
+# The tour leaves the build tree out of reach: the unpacked host has only
+# what the package gave it.
+tour() { # language folder
+    LANG=$1 LC_ALL= LANGUAGE= "$root/usr/bin/norvane-host" --tour "$root/$2" --trace "$root/$2.trace" \
+        2> >(grep -v 'propagateSizeHints\|XDG_RUNTIME_DIR' >&2) || fail "the $2 tour did not complete"
+}
+echo "== tour from the unpacked package, English and German"
+tour C.UTF-8 tour-en
+tour de_DE.UTF-8 tour-de
+en=$(cd "$root/tour-en" && ls *.png)
+[ "$en" = "$(cd "$root/tour-de" && ls *.png)" ] || fail "the two tours saved different pictures"
+echo "$en" | wc -l | xargs echo "pictures per tour:"
+LANG=de_DE.UTF-8 LC_ALL= LANGUAGE= "$root/usr/bin/norvane-host" --help | grep -q 'Module aus <Ordner> laden' \
+    || fail "the unpacked host does not speak German under LANG=de_DE.UTF-8"
+
+# Requests only, without the time and duration columns; the set of lines,
+# because the status bar's once-a-second poll makes their count depend on time.
+requests() { sed -E 's/^[0-9:.]+ +[0-9.]+ ms  //; s/  ->  .*$//' "$1" | sort -u; }
+diff <(requests "$root/tour-en.trace") <(requests "$root/tour-de.trace") \
+    || fail "the controller was sent different lines in German"
+echo "package-check: $deb is complete; both tours sent the same $(requests "$root/tour-en.trace" | wc -l) distinct lines"
