@@ -2095,6 +2095,26 @@ Diese Kalibrierung kann zurzeit nicht unterbrochen werden!</translation>
         <source>Cannot write %1.</source>
         <translation>%1 kann nicht geschrieben werden.</translation>
     </message>
+    <message>
+        <source>%1 has no %2.</source>
+        <translation>%1 hat kein %2.</translation>
+    </message>
+    <message>
+        <source>%1: %2 is disabled.</source>
+        <translation>%1: %2 ist gesperrt.</translation>
+    </message>
+    <message>
+        <source>%1: %2 cannot be pressed.</source>
+        <translation>%1: %2 lässt sich nicht drücken.</translation>
+    </message>
+    <message>
+        <source>%1 did not finish within %2 s.</source>
+        <translation>%1 ist nicht innerhalb von %2 s fertig geworden.</translation>
+    </message>
+    <message>
+        <source>%1: %2 opened no window.</source>
+        <translation>%1: %2 hat kein Fenster geöffnet.</translation>
+    </message>
 </context>
 <context>
     <name>VersionProbe</name>
