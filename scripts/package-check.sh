@@ -71,8 +71,8 @@ for language in en de; do
     done
 done
 ls "$root/tour-en" | wc -l | xargs echo "pictures per tour:"
-LANG=de_DE.UTF-8 LC_ALL= LANGUAGE= "$root/usr/bin/norvane-host" --help 2>/dev/null | grep -q 'Module aus <Ordner> laden' \
-    || fail "the unpacked host does not speak German under LANG=de_DE.UTF-8"
+help=$(LANG=de_DE.UTF-8 LC_ALL= LANGUAGE= "$root/usr/bin/norvane-host" --help 2>/dev/null)
+grep -q 'Module aus <Ordner> laden' <<<"$help" || fail "the unpacked host does not speak German under LANG=de_DE.UTF-8"
 
 # Requests only, without the time and duration columns; the set of lines,
 # because the status bar's once-a-second poll makes their count depend on time.
