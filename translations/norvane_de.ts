@@ -1918,7 +1918,7 @@ Diese Kalibrierung kann zurzeit nicht unterbrochen werden!</translation>
     </message>
     <message>
         <source>Connected to the %1: software %2, system type %3, firmware %4.%5.%6.</source>
-        <translation>Verbunden mit %1: Software %2, Systemtyp %3, Firmware %4.%5.%6.</translation>
+        <translation>Verbunden – %1: Software %2, Systemtyp %3, Firmware %4.%5.%6.</translation>
     </message>
     <message>
         <source>Features that need a newer controller stay off until its version is known.</source>
