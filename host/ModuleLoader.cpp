@@ -8,6 +8,7 @@
 #include <QPluginLoader>
 
 #include <algorithm>
+#include <iterator>
 
 #include "HostLog.h"
 #include "module/ModuleInterface.h"
@@ -25,12 +26,18 @@ QStringList ModuleLoader::default_folders()
 {
     const QString own = QCoreApplication::applicationDirPath();
     const QStringList candidates{own, QDir::cleanPath(own + QStringLiteral("/" NORVANE_PLUGIN_RELATIVE_DIR))};
+    // Only folders holding a module of ours by its metadata (read without
+    // loading): an installed host sits in bin/, beside unrelated libraries.
+    const auto holds_module = [](const QString& folder) {
+        const QFileInfoList files = QDir(folder).entryInfoList(QDir::Files | QDir::Readable);
+        return std::any_of(files.begin(), files.end(), [](const QFileInfo& file) {
+            return QLibrary::isLibrary(file.fileName())
+                   && QPluginLoader(file.absoluteFilePath()).metaData().value(QStringLiteral("IID")).toString()
+                          == QLatin1String(ModuleInterface_iid);
+        });
+    };
     QStringList found;
-    for (const QString& folder : candidates) {
-        const QStringList files = QDir(folder).entryList(QDir::Files | QDir::Readable);
-        if (std::any_of(files.begin(), files.end(), [](const QString& name) { return QLibrary::isLibrary(name); }))
-            found << folder;
-    }
+    std::copy_if(candidates.begin(), candidates.end(), std::back_inserter(found), holds_module);
     return found.isEmpty() ? candidates.mid(0, 1) : found;
 }
 

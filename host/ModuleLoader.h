@@ -29,7 +29,7 @@ public:
 
     // The folders a host without --plugin-dir loads from: next to the
     // executable and the installed plug-in folder, those of them that hold a
-    // library; only the first when none does, so that its absence is told.
+    // module; only the first when none does, so that its absence is told.
     static QStringList default_folders();
 
     // Loads every library in the folder, in file name order; returns how
