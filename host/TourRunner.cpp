@@ -19,7 +19,8 @@ struct TourRunner::Step
         Photo,         // save the window (stem: the window's own when null)
         Open,          // click a button that opens a window (stem: that window's)
         OpenIfEnabled, // the same, only when the button is enabled
-        OpenCell,      // click a table cell (index: row; column: the last) that opens a window
+        OpenCell,      // click the last cell of the first row whose last cell has an icon
+                       // (a row's own button, such as delete) that opens a window
         Press,         // click a button that changes the window in place
         Check,         // tick a check box
         Choose,        // pick an entry of a combo box, or a page of a tool box
@@ -61,8 +62,8 @@ const QVector<TourRunner::Script>& scripts()
         {"InertialSettingsDlg", "inertial-sensor",
          {{Step::Photo, nullptr, 0, nullptr},
           {Step::Open, "pushButton_addSensor", 0, nullptr},
-          // The delete cell of the first radio sensor's row.
-          {Step::OpenCell, "tableWidget", 2, "delete-sensor-question"},
+          // The delete cell of the first sensor's row.
+          {Step::OpenCell, "tableWidget", 0, "delete-sensor-question"},
           {Step::Choose, "toolBox", 1, nullptr},
           {Step::SelectRow, "tableWidget_bodies", 0, nullptr},
           {Step::Photo, nullptr, 0, "inertial-sensor-hybrid-bodies"},
@@ -270,7 +271,11 @@ bool TourRunner::perform(QWidget* modal, Visit* visit)
         if (step.kind == Step::OpenCell) {
             auto* table = qobject_cast<QTableWidget*>(target);
             const int column = table ? table->columnCount() - 1 : 0;
-            QMetaObject::invokeMethod(target, "cellClicked", Qt::QueuedConnection, Q_ARG(int, step.index),
+            int row = 0;
+            while (table && row < table->rowCount()
+                   && !(table->item(row, column) && !table->item(row, column)->icon().isNull()))
+                ++row;
+            QMetaObject::invokeMethod(target, "cellClicked", Qt::QueuedConnection, Q_ARG(int, row),
                                       Q_ARG(int, column));
         } else {
             QMetaObject::invokeMethod(target, "click", Qt::QueuedConnection);
