@@ -3,9 +3,13 @@
 #include <QTemporaryDir>
 #include <QThread>
 
+#include <clocale>
+#include <cstdio>
+
 #include "ScriptedLink.h"
 #include "ScriptedTcpController.h"
 #include "host/InProcessLink.h"
+#include "host/LineFormatter.h"
 #include "host/MessageHub.h"
 #include "host/TcpLink.h"
 #include "module/MessageReceiver.h"
@@ -21,6 +25,7 @@ class tst_ControllerLink : public QObject
     Q_OBJECT
 
 private slots:
+    void lines_in_a_german_environment();
     void replies_data();
     void replies();
     void asynchronous_command_and_timeouts();
@@ -416,6 +421,19 @@ void tst_ControllerLink::tcp()
     link.set_retry_interval(0);
     QCOMPARE(ask("a"), "0 yes");
     QVERIFY(link.is_connected());
+}
+
+void tst_ControllerLink::lines_in_a_german_environment()
+{
+    const QByteArray before = std::setlocale(LC_ALL, nullptr);
+    if (!std::setlocale(LC_ALL, "de_DE.UTF-8"))
+        QSKIP("this machine has no German locale (scripts/install-deps.sh makes one)");
+    char printed[16];
+    std::snprintf(printed, sizeof printed, "%.1f", 0.5);
+    const QByteArray line = LineFormatter::format("inertial frequency %f", 0.5);
+    std::setlocale(LC_ALL, before.constData());
+    QCOMPARE(QByteArray(printed), QByteArray("0,5")); // the C library itself would write a comma
+    QCOMPARE(line, QByteArray("inertial frequency 0.500000"));
 }
 
 QTEST_MAIN(tst_ControllerLink)
