@@ -3,6 +3,8 @@
 #include <QProcess>
 #include <QTcpSocket>
 
+#include <sys/socket.h>
+
 #include "host/TcpLink.h"
 
 // norvane-simd as its clients meet it: lines over TCP from several clients,
@@ -34,11 +36,16 @@ void tst_SimServer::daemon()
         {"line": "norvane inertial scan_transceiver_radio_channels", "kind": "silent"},
         {"line": "norvane get system version", "kind": "hang_up"}]})") > 0);
     scenario.close();
+    // Its log goes to a file: a pipe nobody reads while the test waits on a
+    // socket would stall the daemon.
+    QFile log_file(dir.filePath("log"));
+    simd.setStandardOutputFile(log_file.fileName());
     simd.start(QStringLiteral(SIMD_FILE), {"--port", "0", "--speed", "10", "--log", "--scenario", scenario.fileName()});
-    QVERIFY(simd.waitForReadyRead(10000));
+    QVERIFY(log_file.open(QIODevice::ReadOnly));
+    QTRY_VERIFY(log_file.peek(1 << 16).contains('\n'));
     const QRegularExpressionMatch banner = QRegularExpression(
         "^norvane-simd: listening on 127\\.0\\.0\\.1:(\\d+) \\(controller 1\\.21\\.2 NORVANE-DUO, 2 transceivers, 5 "
-        "sensors, scenario .*faults.json, speed 10\\)\n$").match(QString::fromLatin1(simd.readLine()));
+        "sensors, scenario .*faults.json, speed 10\\)\n$").match(QString::fromLatin1(log_file.readLine()));
     QVERIFY(banner.hasMatch());
     const quint16 port = quint16(banner.captured(1).toUInt());
     QTcpSocket clients[2];
@@ -59,11 +66,28 @@ void tst_SimServer::daemon()
     QTcpSocket& second = clients[1];
     first.write("norvane get system type\r\nnorvane set body desc standard b02 \"bat\"\nnorvane tracking stop\n");
     QCOMPARE(lines(first, 3), "norvane set system type NORVANE-DUO\nnorvane ok\nnorvane ok\n");
+    // One refusal per line too long, however it arrives; what follows its
+    // line end is a fresh start. Error texts quote a request's words only
+    // in part.
     first.write(QByteArray(65536 + 1, 'a'));
-    QCOMPARE(lines(first, 1), "norvane err 2 \"line too long\"\n");
-    // What follows the dropped bytes is a fresh start.
-    first.write("aaa\nnorvane get system type\n");
-    QCOMPARE(lines(first, 2), "norvane err 2 \"not a request\"\nnorvane set system type NORVANE-DUO\n");
+    first.write("aaa\n" + QByteArray(1 << 20, 'b') + "\nnorvane get " + QByteArray(1000, 'c') + "\n");
+    QCOMPARE(lines(first, 3), "norvane err 2 \"line too long\"\nnorvane err 2 \"line too long\"\nnorvane err 2 \"incomplete "
+                              "path " + QByteArray(80, 'c') + "...\"\n");
+    // Turns: a client pipelining many requests, and reading none of the
+    // replies, keeps nobody else waiting.
+    QByteArray many;
+    for (int i = 0; i < 100000; ++i)
+        many += "norvane get system type\n";
+    first.write(many);
+    first.flush();
+    QElapsedTimer turn;
+    turn.start();
+    second.write("norvane get inertial warmup\n");
+    QCOMPARE(lines(second, 1), "norvane set inertial warmup no\n");
+    QVERIFY2(turn.elapsed() < 1000, qPrintable(QString::number(turn.elapsed())));
+    first.abort();
+    first.connectToHost(QHostAddress::LocalHost, port);
+    QVERIFY(first.waitForConnected(5000));
 
     // One controller for all; a late reply holds up its own client's later
     // replies, nobody else's.
@@ -95,18 +119,26 @@ void tst_SimServer::daemon()
     QCOMPARE(link.wait_for_completion(nullptr), 0);
     QCOMPARE(reply, "norvane ok");
     QByteArray log;
-    while (!log.contains("scan_sensors ->") && simd.waitForReadyRead(5000))
-        log += simd.readAll();
+    QTRY_VERIFY((log += log_file.readAll()).contains("scan_sensors ->"));
     QVERIFY2(QRegularExpression("^\\[1\\] connected from 127.0.0.1:\\d+\n\\[2\\] connected from 127.0.0.1:\\d+\n"
                                 "\\[1\\] norvane get system type\\\\xd -> norvane set system type NORVANE-DUO\n.*"
                                 "\\[2\\] norvane inertial scan_transceiver_radio_channels -> \\(no answer\\)\n.*"
                                 "\\[2\\] norvane get system version -> norvane set system version 1.21.2 \\(hangs up\\)\n.*"
-                                "\\[2\\] disconnected\n\\[3\\] connected from .*"
-                                "\\[3\\] norvane inertial scan_sensors -> norvane ok \\(after 40 ms\\)\n$",
+                                "\\[2\\] disconnected\n.*"
+                                "\\[4\\] norvane inertial scan_sensors -> norvane ok \\(after 40 ms\\)\n$",
                                 QRegularExpression::DotMatchesEverythingOption)
                  .match(QString::fromLatin1(log))
                  .hasMatch(),
              log.constData());
+    // A client that shut its sending side right after its request.
+    QTcpSocket& half = clients[0];
+    half.abort();
+    half.connectToHost(QHostAddress::LocalHost, port);
+    QVERIFY(half.waitForConnected(5000));
+    half.write("norvane get system type\n");
+    QVERIFY(half.waitForBytesWritten(5000));
+    QCOMPARE(::shutdown(int(half.socketDescriptor()), SHUT_WR), 0);
+    QCOMPARE(lines(half, 1), "norvane set system type NORVANE-DUO\n");
     simd.kill();
     simd.waitForFinished(5000);
 }
