@@ -187,6 +187,12 @@ ControllerLink::Result TcpLink::read_reply(QByteArray* reply, QDeadlineTimer dea
     for (;;) {
         input += socket.readAll();
         const int end = input.indexOf('\n');
+        if (end > MaxLineLength) {
+            // Read whole, so the next reply is in step; too long all the same.
+            input.remove(0, end + 1);
+            *error = tr("reply longer than %1 bytes").arg(int(MaxLineLength));
+            return ReplyTooLong;
+        }
         if (end >= 0) {
             *reply = input.left(end);
             if (reply->endsWith('\r'))

@@ -4,7 +4,6 @@
 #include <QThread>
 
 #include "ScriptedLink.h"
-#include "ScriptedTcpController.h"
 #include "host/InProcessLink.h"
 #include "host/MessageHub.h"
 #include "host/TcpLink.h"
@@ -15,8 +14,7 @@
 // The link's rules for every IOManager call on a scripted transport; an
 // outage failing every call at once until a probe from the event loop finds
 // the controller again; the in-process simulator's faults turned into the
-// same failures; over TCP one connection while all goes well, a fresh one
-// after a reply that came late, cut short or without end.
+// same failures. Over TCP: tst_SimServer.
 class tst_ControllerLink : public QObject
 {
     Q_OBJECT
@@ -31,7 +29,6 @@ private slots:
     void in_process_faults();
     void parse_address_data();
     void parse_address();
-    void tcp();
 };
 
 namespace {
@@ -442,69 +439,6 @@ void tst_ControllerLink::parse_address()
     QCOMPARE(ok ? QStringLiteral("%1 %2").arg(host).arg(port) : QString(), parsed);
     if (ok)
         QCOMPARE(TcpLink(host, port).address(), text);
-}
-
-void tst_ControllerLink::tcp()
-{
-    ScriptedTcpController controller;
-    QVERIFY(controller.start());
-    controller.reply("norvane get a", "norvane set a yes");
-    controller.reply("norvane get long", "norvane set long " + QByteArray(600, 'x'));
-    controller.script("norvane get endless", QByteArray(ControllerLink::MaxLineLength + 10, 'g'));
-    controller.script("norvane get cut", "norvane set cut 1", 0, true);
-    controller.script("norvane get late", "norvane set late 5\n", 300);
-    controller.script("norvane get silent", "");
-    controller.script("norvane scan", "norvane ok\n", 100);
-    TcpLink link(QStringLiteral("127.0.0.1"), controller.port());
-    QSignalSpy connection(&link, &ControllerLink::connection_changed);
-    char reply[IOManager::ReplyCapacity] = "";
-    const auto ask = [&link, &reply](const char* path) {
-        const int result = link.get_string(reply, "%s", path);
-        return QStringLiteral("%1 %2").arg(result).arg(result ? link.last_error() : reply);
-    };
-    // A reply too long for the buffer was still read whole: the next is in step.
-    QCOMPARE(ask("long"), "6 reply of 600 characters does not fit the 256-byte buffer");
-    QCOMPARE(ask("a"), "0 yes");
-    QCOMPARE(controller.connections(), 1);
-    QCOMPARE(connection.count(), 1);
-    // Whatever leaves the stream out of step takes the connection with it;
-    // a probe from the event loop connects again.
-    link.set_default_timeout(200);
-    QElapsedTimer clock;
-    clock.start();
-    QCOMPARE(ask("silent"), "3 no reply within 200 ms");
-    QVERIFY(clock.elapsed() >= 190);
-    QCOMPARE(ask("a"), "2 the controller is not answering since " + QTime::currentTime().toString("HH:mm:ss"));
-    QTRY_VERIFY(link.is_answering());
-    QCOMPARE(ask("late"), "3 no reply within 200 ms");
-    for (const char* path : {"endless", "cut"}) {
-        QTRY_VERIFY(link.is_answering());
-        link.set_timeout(false, 2000, false);   // this request only
-        QVERIFY(ask(path).startsWith(*path == 'e' ? "6 reply longer than 65536 bytes without a line end"
-                                                  : "2 the controller closed the connection in the middle of a reply"));
-    }
-    QTRY_VERIFY(link.is_answering());
-    QCOMPARE(ask("a"), "0 yes");
-    QCOMPARE(controller.connections(), 5);
-    QCOMPARE(controller.received().count("norvane get system version"), 4);
-    link.set_timeout(true, 20000, true);
-    QCOMPARE(link.send_command(reply, "norvane scan"), int(ControllerLink::Pending));
-    QCOMPARE(link.wait_for_completion(nullptr), 0);
-    QCOMPARE(reply, "norvane ok");
-
-    // The controller gone: failures at once until it is back.
-    const int changes = connection.count();
-    controller.stop();
-    QTRY_COMPARE(connection.count(), changes + 1);
-    QVERIFY(!link.is_answering());
-    QVERIFY(ask("a").startsWith("2 the controller is not answering since "));
-    QVERIFY(controller.start(controller.port()));
-    QTRY_VERIFY_WITH_TIMEOUT(link.is_answering(), 10000);
-    QCOMPARE(ask("a"), "0 yes");
-    QVERIFY(link.is_connected());
-    TcpLink nowhere(QStringLiteral("127.0.0.1"), 1);
-    QVERIFY(nowhere.get_string(reply, "a") == ControllerLink::TransportFailure && !nowhere.is_answering());
-    QVERIFY(QByteArray(nowhere.last_error()).startsWith("cannot connect to the controller at 127.0.0.1:1: "));
 }
 
 QTEST_MAIN(tst_ControllerLink)
