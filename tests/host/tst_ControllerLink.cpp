@@ -4,17 +4,14 @@
 #include <QThread>
 
 #include "ScriptedLink.h"
-#include "host/InProcessLink.h"
 #include "host/MessageHub.h"
 #include "host/TcpLink.h"
 #include "module/MessageReceiver.h"
-#include "simulator/ManualClock.h"
-#include "simulator/SimulatedController.h"
 
 // The link's rules for every IOManager call on a scripted transport; an
 // outage failing every call at once until a probe from the event loop finds
-// the controller again; the in-process simulator's faults turned into the
-// same failures. Over TCP: tst_SimServer.
+// the controller again. The simulator's faults over TCP: tst_SimServer;
+// in-process: tst_HostileController.
 class tst_ControllerLink : public QObject
 {
     Q_OBJECT
@@ -26,7 +23,6 @@ private slots:
     void outage_and_notices();
     void trace();
     void messages_by_receiver_name();
-    void in_process_faults();
     void parse_address_data();
     void parse_address();
 };
@@ -368,51 +364,6 @@ void tst_ControllerLink::messages_by_receiver_name()
                                    "messages.",
                                    "No receiver \"InertialModule\" for the message from (unnamed): nobody",
                                    "No receiver \"Gone\" for the message from Elsewhere: too late"}));
-}
-
-void tst_ControllerLink::in_process_faults()
-{
-    InProcessLink link(std::make_unique<ManualClock>());
-    QString error;
-    QVERIFY2(link.simulator()->load_scenario(R"({"extends": "default", "faults": [
-        {"line": "norvane get inertial number_of_sensors", "kind": "hang_up", "times": 1},
-        {"line": "norvane get inertial warmup", "kind": "late", "delay_ms": 150},
-        {"line": "norvane get inertial frequency", "kind": "late", "delay_ms": 401},
-        {"line": "norvane get inertial available", "kind": "silent"}]})", &error), qPrintable(error));
-    QSignalSpy connection(&link, &ControllerLink::connection_changed);
-    int count = Unset;
-    QCOMPARE(link.get_int(&count, "inertial number_of_sensors"), int(ControllerLink::TransportFailure));
-    QCOMPARE(link.last_error(), "the controller closed the connection in the middle of a reply");
-    QTRY_VERIFY(link.is_answering());
-    QCOMPARE(link.get_int(&count, "inertial number_of_sensors"), 0);
-    QCOMPARE(count, 5);
-    QCOMPARE(connection.count(), 2);
-    // Late and silent replies take as long as they would over the wire, and
-    // without real delays no time at all.
-    link.set_default_timeout(400);
-    char reply[IOManager::ReplyCapacity];
-    const char* paths[] = {"inertial warmup", "inertial frequency", "inertial available"};
-    const QString outcomes[] = {"0 ", "3 reply 401 ms late, beyond the time-out", "3 no reply within the time-out"};
-    const int waits[] = {150, 400, 400};
-    for (const bool real : {true, false}) {
-        link.set_real_delays(real);
-        for (int i = 0; i < 3; ++i) {
-            QTRY_VERIFY(link.is_answering());
-            QElapsedTimer clock;
-            clock.start();
-            QCOMPARE(QStringLiteral("%1 %2").arg(link.get_string(reply, paths[i])).arg(link.last_error()), outcomes[i]);
-            QVERIFY2(real ? clock.elapsed() >= waits[i] - 10 && clock.elapsed() < 1500 : clock.elapsed() < 100, paths[i]);
-        }
-    }
-
-    QTRY_VERIFY(link.is_answering());
-    QCOMPARE(link.description(), QStringLiteral("simulated controller (default scenario)"));
-    QVERIFY(!link.load_scenario_file(QStringLiteral("/nowhere/missing.json"), &error));
-    QCOMPARE(link.description(), QStringLiteral("simulated controller (default scenario)"));
-    QVERIFY2(link.load_scenario_file(QStringLiteral(SCENARIO_DIR "/old_controller.json"), &error), qPrintable(error));
-    QCOMPARE(link.description(), QStringLiteral("simulated controller (old_controller.json)"));
-    QCOMPARE(link.get_string(reply, "system version"), 0);
-    QCOMPARE(reply, "1.15.3");
 }
 
 void tst_ControllerLink::parse_address_data()
