@@ -1,11 +1,16 @@
 #include <QtTest>
 
+#include <QDoubleSpinBox>
 #include <QPushButton>
 #include <QTemporaryDir>
+
+#include <clocale>
+#include <cstdio>
 
 #include "HostHarness.h"
 #include "ModalDialogHelper.h"
 #include "host/TourRunner.h"
+#include "simulator/SimModel.h"
 #include "simulator/SimulatedController.h"
 
 // The host with the plug-in against a controller that stops answering,
@@ -13,6 +18,8 @@
 // long, binary or absurd: every dialog of the tour and the settings
 // dialog's channel scan, with a watchdog on the GUI thread. Nothing may
 // freeze the window longer than one time-out, and the user is told why.
+// Under a comma-decimal locale (LC_ALL=de_DE.UTF-8, set by CTest), and the
+// frequency still goes out as "120.000000".
 class tst_HostileController : public QObject
 {
     Q_OBJECT
@@ -20,6 +27,7 @@ class tst_HostileController : public QObject
 private slots:
     void tour_and_scan_data();
     void tour_and_scan();
+    void frequency_under_a_german_locale();
 };
 
 namespace {
@@ -124,6 +132,32 @@ void tst_HostileController::tour_and_scan()
     const QStringList messages = host.messages();
     QVERIFY2(!messages.filter(told).isEmpty(), qPrintable(messages.join('\n')));
     QVERIFY2(messages.filter(told).size() <= 2, qPrintable(messages.join('\n')));   // once per outage
+}
+
+void tst_HostileController::frequency_under_a_german_locale()
+{
+    std::setlocale(LC_ALL, "");   // as QApplication does; an earlier window made numbers C
+    char german[8];
+    std::snprintf(german, sizeof german, "%.1f", 1.5);
+    if (QByteArray(german) != "1,5")
+        QSKIP("the locale de_DE.UTF-8 is not installed here (locale-gen de_DE.UTF-8)");
+    HostHarness::Options options;
+    options.plugin_file = QStringLiteral(PLUGIN_FILE);
+    HostHarness host(options);
+    QVERIFY2(host.ok(), qPrintable(host.error()));
+    // Modules read replies with sscanf: the host keeps numbers in C.
+    QCOMPARE(std::setlocale(LC_NUMERIC, nullptr), "C");
+    // Lines are C whatever a module or library makes of the process locale.
+    std::setlocale(LC_ALL, "");
+    ModalDialogHelper::when_active("InertialSettingsDlg", [](QWidget* dialog) {
+        dialog->findChild<QDoubleSpinBox*>("doubleSpinBox_frequency")->setValue(120.0);
+        ModalDialogHelper::close(dialog);
+    });
+    host.action("In&ertial Sensor")->trigger();
+    std::setlocale(LC_NUMERIC, "C");
+    QCOMPARE(host.simulator()->model().frequency, 120.0);
+    QVERIFY2(!host.window()->traffic_log()->texts().filter("norvane set inertial frequency 120.000000  ->  norvane ok").isEmpty(),
+             qPrintable(host.window()->traffic_log()->texts().join('\n')));
 }
 
 QTEST_MAIN(tst_HostileController)
