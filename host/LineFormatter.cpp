@@ -1,31 +1,30 @@
 #include "LineFormatter.h"
 
+#include <clocale>
 #include <cstdio>
-
 #include <locale.h>
 
 namespace {
 
-// The controller reads "%f" with a decimal point whatever the user's language:
-// QApplication adopts the environment's locale, under which the C library
-// would print "0,5" for a German user. Formatting under a C locale of our own,
-// for this thread only, keeps every line the same bytes under any locale.
-class CNumericScope
+// The controller reads "100.000000", never "100,000000": QApplication adopts
+// the user's locale for the whole process, so the lines are printed under a
+// C locale of their own, on this thread only.
+class CNumbers
 {
 public:
-    CNumericScope() : previous(c_locale() ? uselocale(c_locale()) : nullptr) {}
-    ~CNumericScope()
+    CNumbers() : previous(c_locale() ? uselocale(c_locale()) : nullptr) {}
+    ~CNumbers()
     {
         if (previous)
             uselocale(previous);
     }
-    CNumericScope(const CNumericScope&) = delete;
-    CNumericScope& operator=(const CNumericScope&) = delete;
+    CNumbers(const CNumbers&) = delete;
+    CNumbers& operator=(const CNumbers&) = delete;
 
 private:
     static locale_t c_locale()
     {
-        static const locale_t c = newlocale(LC_ALL_MASK, "C", locale_t(nullptr));
+        static const locale_t c = newlocale(LC_ALL_MASK, "C", static_cast<locale_t>(nullptr));
         return c;
     }
     locale_t previous;
@@ -37,7 +36,7 @@ QByteArray LineFormatter::format(const char* format, va_list args)
 {
     if (!format)
         return QByteArray();
-    const CNumericScope c_numbers;
+    const CNumbers c_numbers;
     va_list measure;
     va_copy(measure, args);
     const int length = std::vsnprintf(nullptr, 0, format, measure);

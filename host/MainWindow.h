@@ -88,6 +88,7 @@ private:
     void report_loader_problems();
     void update_controller_view();
     void update_connection_state(bool connected);
+    void show_connection_state(const QString& state);
     void reread_versions_after_reconnect(bool connected);
 
     std::unique_ptr<Ui::MainWindow> ui;
