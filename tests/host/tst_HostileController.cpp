@@ -100,13 +100,16 @@ void tst_HostileController::tour_and_scan()
     QTemporaryDir dir;
     TourRunner tour(host.window(), dir.path());
     tour.set_settle_time(200);
+    tour.set_patience(800);    // nested windows may never come: the controller is bad
     bool toured = false;
     QTimer::singleShot(0, host.window(), [&] {
         tour.run();
         toured = true;
     });
     QTRY_VERIFY_WITH_TIMEOUT(toured, 60000);
-    QCOMPARE(tour.saved_files().size(), 4);
+    // Every menu entry's window and the main window, whatever became of the
+    // nested ones.
+    QVERIFY2(tour.saved_files().size() >= 4, qPrintable(tour.saved_files().join(' ')));
 
     // The channel scan, on a controller that answers the scan and then goes
     // bad for the rebuild after it: the scan's long time-out is its own.
