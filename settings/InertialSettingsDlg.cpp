@@ -18,8 +18,10 @@
 #include <algorithm>
 #include <cmath>
 
+#include "BodyAssignmentPage.h"
 #include "ChannelComboBox.h"
 #include "SensorChannelCombo.h"
+#include "TrackingPulsePage.h"
 #include "addsensor/AddInertialSensorDlg.h"
 #include "module/ControllerChecks.h"
 #include "module/ControllerText.h"
@@ -119,6 +121,8 @@ InertialSettingsDlg::InertialSettingsDlg(IOManager* io, QWidget* parent, Backend
       frequency_maximum(1000.0),
       frequency_react(false),
       message_receiver(nullptr),
+      bodies(nullptr),
+      pulse(nullptr),
       receiver_registered(false),
       dummyDongleNeeded(false),
       scanNeeded(false),
@@ -166,6 +170,8 @@ InertialSettingsDlg::InertialSettingsDlg(IOManager* io, QWidget* parent, Backend
     connect(first_refresh_timer, SIGNAL(timeout()), this, SLOT(update_buttons()));
 
     initMessageReceiver();
+    bodies = new BodyAssignmentPage(this, ui, io, versions);
+    pulse = new TrackingPulsePage(this, ui, io, versions);
 }
 
 InertialSettingsDlg::~InertialSettingsDlg()
@@ -173,6 +179,8 @@ InertialSettingsDlg::~InertialSettingsDlg()
     // The host must not keep delivering to a receiver that dies with us.
     if (receiver_registered && io)
         io->unregister_receiver("InertialModule", message_receiver);
+    delete pulse;
+    delete bodies;
     delete ui;
 }
 
@@ -249,7 +257,6 @@ int InertialSettingsDlg::update_and_exec()
 
     if (config_locked) {
         setWindowIcon(icon_lock);
-        show_error(tr("The configuration is locked: the inertial settings cannot be changed"));
         get_all_wakeup_modes();
         update_table();
         update_wakeup_and_frequency();
@@ -264,10 +271,12 @@ int InertialSettingsDlg::update_and_exec()
     if (!inertial_available) {
         show_error(tr("Hybrid tracking is not available!"));
         disable_sensor_controls();
+        bodies->update_spinBox_numBodies();
         update_table();
         ui->tableWidget->setEnabled(true);
         ui->progressBar->hide();
         disable_body_page();
+        enableInertialControls();
         return run_modal();
     }
 
@@ -300,7 +309,9 @@ int InertialSettingsDlg::update_and_exec()
             not_present_timer->start();
         }
     }
-    disable_body_page();
+    bodies->open(true);
+    enableInertialControls();
+    pulse->refresh(inertial_available);
     return run_modal();
 }
 
@@ -308,6 +319,7 @@ int InertialSettingsDlg::run_without_body_pages()
 {
     ui->progressBar->hide();
     disable_body_page();
+    enableInertialControls();
     return run_modal();
 }
 
@@ -323,6 +335,7 @@ int InertialSettingsDlg::run_modal()
 void InertialSettingsDlg::onReceiveReopen()
 {
     // A second "reopen" while the dialog runs must not nest another exec().
+    bodies->refresh_after_other_dialog();
     if (isVisible())
         return;
     run_modal();
@@ -339,14 +352,12 @@ void InertialSettingsDlg::disable_sensor_controls()
 
 void InertialSettingsDlg::disable_body_page()
 {
-    // Body assignment reads nothing from the controller yet; its controls
-    // stay inert rather than offering actions that do nothing.
-    for (QWidget* widget : std::initializer_list<QWidget*>{
-             ui->spinBox_numBodies, ui->tableWidget_bodies, ui->tableWidget_sensors,
-             ui->pushButton_select, ui->pushButton_deselect, ui->pushButton_filter,
-             ui->pushButton_calibration, ui->pushButton_inertialSensorCalibration,
-             ui->pushButton_hybridBodyCalibration})
-        widget->setEnabled(false);
+    bodies->disable();
+}
+
+void InertialSettingsDlg::enableInertialControls()
+{
+    pulse->enableInertialControls(config_locked, inertial_available);
 }
 
 void InertialSettingsDlg::set_warmup_lock(bool locked)
@@ -528,6 +539,7 @@ void InertialSettingsDlg::refresh_all_sensor_rows()
 void InertialSettingsDlg::closeEvent(QCloseEvent* event)
 {
     stop_all_timers();
+    pulse->sendTrackingPulseSettingsToAtc();
     QDialog::closeEvent(event);
 }
 
@@ -566,14 +578,60 @@ void InertialSettingsDlg::keyPressEvent(QKeyEvent* event)
 
 void InertialSettingsDlg::on_toolBox_currentChanged(int index)
 {
-    // The body and tracking pages have nothing to read yet.
-    if (index == 0) {
-        if (table_stale)
-            update_table();
-    } else if (index < 0 || index > 2) {
+    const bool all = index < 0 || index > 2;
+    if (all || (index == 0 && table_stale)) {
+        bodies->update_spinBox_numBodies();
         update_table();
     }
+    if (all || index == 1) {
+        bodies->update_tableWidget_bodies();
+        bodies->update_tableWidget_sensors();
+        bodies->activate_pushButton_select();
+        bodies->activate_pushButton_deselect();
+    }
+    if (all || index == 2) {
+        enableInertialControls();
+        pulse->refresh(inertial_available);
+    }
+    // Whatever page comes, a changed tracking pulse goes out now.
+    pulse->sendTrackingPulseSettingsToAtc();
 }
+
+QStringList InertialSettingsDlg::sensor_fields_of_settings_row() const
+{
+    const int row = ui->tableWidget->currentRow();
+    const QTableWidgetItem* device = row < 0 ? nullptr : ui->tableWidget->item(row, ColDeviceId);
+    return device ? device->data(SensorIdentityRole).toStringList() : QStringList();
+}
+
+// --- "Hybrid Bodies" and "Tracking Frequency": the pages do the work ---------
+
+void InertialSettingsDlg::on_pushButton_select_clicked() { bodies->on_pushButton_select_clicked(); }
+void InertialSettingsDlg::on_pushButton_deselect_clicked() { bodies->on_pushButton_deselect_clicked(); }
+void InertialSettingsDlg::on_spinBox_numBodies_valueChanged(int value) { bodies->on_spinBox_numBodies_valueChanged(value); }
+void InertialSettingsDlg::on_tableWidget_bodies_itemChanged(QTableWidgetItem* item) { bodies->on_tableWidget_bodies_itemChanged(item); }
+void InertialSettingsDlg::on_tableWidget_bodies_cellClicked(int row, int column) { bodies->on_tableWidget_bodies_cellClicked(row, column); }
+void InertialSettingsDlg::on_pushButton_filter_clicked() { bodies->on_pushButton_filter_clicked(); }
+void InertialSettingsDlg::on_pushButton_calibration_clicked() { bodies->on_pushButton_calibration_clicked(); }
+void InertialSettingsDlg::on_pushButton_hybridBodyCalibration_clicked() { bodies->on_pushButton_hybridBodyCalibration_clicked(); }
+void InertialSettingsDlg::on_pushButton_inertialSensorCalibration_clicked() { bodies->on_pushButton_inertialSensorCalibration_clicked(); }
+
+void InertialSettingsDlg::on_tableWidget_bodies_clicked(const QModelIndex&)
+{
+    bodies->activate_pushButton_select();
+    bodies->activate_pushButton_deselect();
+}
+
+void InertialSettingsDlg::on_tableWidget_sensors_itemSelectionChanged()
+{
+    bodies->activate_pushButton_select();
+}
+
+void InertialSettingsDlg::on_radioButton_cameraSynchronous_toggled(bool) { pulse->on_radioButton_toggled(); }
+void InertialSettingsDlg::on_radioButton_inertialSensor_toggled(bool) { pulse->on_radioButton_toggled(); }
+void InertialSettingsDlg::on_radioButton_frequency_toggled(bool) { pulse->on_radioButton_toggled(); }
+void InertialSettingsDlg::on_comboBox_inertialSensor_currentIndexChanged(int) { pulse->user_changed(); }
+void InertialSettingsDlg::on_doubleSpinBox_frequency_2_valueChanged(double) { pulse->user_changed(); }
 
 void InertialSettingsDlg::on_pushButton_addSensor_clicked()
 {

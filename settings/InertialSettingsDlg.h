@@ -9,6 +9,9 @@
 #include <QStringList>
 
 class AddInertialSensorDlg;
+class BodyAssignmentPage;
+class QModelIndex;
+class TrackingPulsePage;
 class ChannelComboBox;
 class IneritalMessageReceiver;
 class IOManager;
@@ -123,6 +126,11 @@ public:
     void delete_sensor(int row);
     void deleteAssignmentIfSensorIsAlreadyAssigned(const char* identity);
 
+    // The sensor table must be read again before the "Settings" page shows.
+    void mark_table_stale() { table_stale = true; }
+    // Vendor, model and serial of the sensor chosen on the "Settings" page.
+    QStringList sensor_fields_of_settings_row() const;
+
 public slots:
     int update_and_exec();
     void onReceiveReopen();
@@ -151,6 +159,26 @@ private slots:
     void wakeup_mode_active(const QString& text);
     void editor_closed();
 
+    // "Hybrid Bodies" page.
+    void on_pushButton_select_clicked();
+    void on_pushButton_deselect_clicked();
+    void on_spinBox_numBodies_valueChanged(int value);
+    void on_tableWidget_bodies_itemChanged(QTableWidgetItem* item);
+    void on_tableWidget_bodies_cellClicked(int row, int column);
+    void on_tableWidget_bodies_clicked(const QModelIndex& index);
+    void on_tableWidget_sensors_itemSelectionChanged();
+    void on_pushButton_filter_clicked();
+    void on_pushButton_calibration_clicked();
+    void on_pushButton_hybridBodyCalibration_clicked();
+    void on_pushButton_inertialSensorCalibration_clicked();
+
+    // "Tracking Frequency" page.
+    void on_radioButton_cameraSynchronous_toggled(bool checked);
+    void on_radioButton_inertialSensor_toggled(bool checked);
+    void on_radioButton_frequency_toggled(bool checked);
+    void on_comboBox_inertialSensor_currentIndexChanged(int index);
+    void on_doubleSpinBox_frequency_2_valueChanged(double value);
+
 private:
     // Frame.
     void initMessageReceiver();
@@ -158,6 +186,7 @@ private:
     int run_without_body_pages();
     void disable_sensor_controls();
     void disable_body_page();
+    void enableInertialControls();
     void set_warmup_lock(bool locked);
     void end_warmup_display();
     void show_error(const QString& text);
@@ -250,6 +279,8 @@ private:
     double frequency_maximum;
     bool frequency_react;
     IneritalMessageReceiver* message_receiver;
+    BodyAssignmentPage* bodies;
+    TrackingPulsePage* pulse;
     bool receiver_registered;
 
     QStringList transceiver_identities;
