@@ -1023,7 +1023,15 @@ int InertialSettingsDlg::row_for_sensor(const QString& transceiver, const QStrin
 {
     // Sensors on cable, and those whose transceiver the table does not
     // list, gather under "cable connected:".
-    const int dongle = transceiver == None || transceiver.isEmpty() ? -1 : get_row_of_dongle(transceiver);
+    if (transceiver == None || transceiver.isEmpty()) {
+        dummyDongleNeeded = true;
+        return getRowOfDummyDongle() + 1;
+    }
+    // The transceiver's own row already shows the answer; the controller
+    // nonetheless expects the question before a sensor is filed under it.
+    char reply[IOManager::ReplyCapacity];
+    io->get_string(reply, "inertial transceiver_present %s", ControllerText::latin(transceiver).constData());
+    const int dongle = get_row_of_dongle(transceiver);
     if (dongle < 0) {
         dummyDongleNeeded = true;
         return getRowOfDummyDongle() + 1;
@@ -1186,8 +1194,13 @@ void InertialSettingsDlg::update_sensor_channel(int row, QString identity, bool 
     // asked for the number itself.
     bool numeric = false;
     int channel = connection.toInt(&numeric);
-    if (!answered || !numeric)
-        channel = getSensorChannel(identity);
+    if (!answered || !numeric) {
+        channel = -1;
+        if (io->get_int(&channel, "inertial sensor_radio_channel %s", ControllerText::latin(identity).constData()) != 0) {
+            report(tr("Error: Unable to get radio channel of sensor %1").arg(row));
+            channel = -1;
+        }
+    }
 
     auto* combo = qobject_cast<SensorChannelCombo*>(table->cellWidget(row, ColChannel));
     if (!combo) {
@@ -1210,7 +1223,7 @@ void InertialSettingsDlg::update_sensor_channel(int row, QString identity, bool 
 void InertialSettingsDlg::update_battery(int row, QString identity, bool present)
 {
     if (!present) {
-        remove_cell_widget(row, ColBattery);
+        // The last charge stays on show: it is what the sensor had when it left.
         ensure_item(row, ColBattery)->setFlags(Qt::ItemIsEnabled);
         return;
     }
@@ -1476,7 +1489,6 @@ void InertialSettingsDlg::update_wakeup_combo(int row, QString identity, bool pr
 {
     auto* combo = qobject_cast<QComboBox*>(ui->tableWidget->cellWidget(row, ColWakeupMode));
     if (!present) {
-        remove_cell_widget(row, ColWakeupMode);
         ensure_item(row, ColWakeupMode)->setFlags(Qt::ItemIsSelectable);
         return;
     }

@@ -317,23 +317,23 @@ void tst_InertialSettingsDlg::opening_data()
     row("1.11: only the lock asked", {"version=1.11"}, opened, "tableWidget |  | Warmup start\n\n" + old
         + "\nsensor 1 round trips");
     row("locked: all filled, nothing usable", {"config is_changeable=no"}, opened, " |  | Warmup start\n" + Typical
-        + "\n\nlock 144 round trips");
+        + "\n\nlock 148 round trips");
     row("tracking unavailable", {"inertial available=no"}, opened, "tableWidget |  | Warmup start\n" + Typical + '\n'
-        + Red.arg("Hybrid tracking is not available!") + "\nsensor 104 round trips");
+        + Red.arg("Hybrid tracking is not available!") + "\nsensor 108 round trips");
     row("no transceiver: no scan, no timer", {"inertial number_of_transceivers=0"}, opened, "addSensor mode frequency "
-        "tableWidget warmup numBodies |  | Warmup start\ncable connected: S0005 C0004 S0003 S0002 S0001\n\nsensor 189 "
+        "tableWidget warmup numBodies |  | Warmup start\ncable connected: S0005 C0004 S0003 S0002 S0001\n\nsensor 193 "
         "round trips, "
         "progress");
     row("warm-up running: no presence poll", {"inertial warmup=yes"}, opened, "warmup numBodies | buttonTimer "
-        "sensorDataTimer | Warmup stop\n" + Typical + "\n\nsensor 252 round trips, progress");
+        "sensorDataTimer | Warmup stop\n" + Typical + "\n\nsensor 256 round trips, progress");
     row("1.12: the first with inertial sensors", {"version=1.12"}, opened, "addSensor mode frequency tableWidget "
-        "scanAvailableChannels warmup numBodies | buttonTimer notPresentTimer | Warmup start\n" + Typical + "\n\nsensor 207 round "
-        "trips, progress\n! Error: Unable to get radio channel of sensor");   // C4 on cable, which 1.12 cannot tell
+        "scanAvailableChannels warmup numBodies | buttonTimer notPresentTimer | Warmup start\n" + Typical + "\n\nsensor 211 round "
+        "trips, progress\n! Error: Unable to get radio channel of sensor 6");   // C4 on cable, which 1.12 cannot tell
     row("no sensors: nothing to warm up", {"inertial number_of_sensors=0"}, opened, "addSensor mode frequency tableWidget "
         "scanAvailableChannels numBodies | buttonTimer notPresentTimer | Warmup start\nT1001 T1002\n\nsensor 95 round trips, "
         "progress");
     row("ready", {}, opened, "addSensor mode frequency tableWidget scanAvailableChannels warmup numBodies | "
-        "buttonTimer notPresentTimer | Warmup start\n" + Typical + "\n\nsensor 227 round trips, progress");
+        "buttonTimer notPresentTimer | Warmup start\n" + Typical + "\n\nsensor 231 round trips, progress");
 }
 
 void tst_InertialSettingsDlg::typicalTable()
@@ -391,7 +391,7 @@ void tst_InertialSettingsDlg::failures_data()
     row("sensor presence", {"inertial sensor_present " + S3}, shown(5, 8), Typical + "\nnot present" + e
         + "informations of sensor 3");
     row("sensor channel", {"inertial sensor_radio_channel " + S3}, shown(5, 5), Typical + "\n[]" + e + "sensor "
-        "channel" + e + "radio channel of sensor");
+        "channel" + e + "radio channel of sensor 4");
     row("sensor output frequency", {"inertial sensor_output_frequency " + S2}, shown(1, 9), Typical + "\n" + e
         + "frequency of sensor 2");
     row("hand-eye state", {"inertial sensor_handeye " + S2}, shown(1, 10), Typical + "\n~{red}" + e + "calibration "
@@ -473,7 +473,7 @@ void tst_InertialSettingsDlg::refresh_data()
     };
     const QString s1 = "{inertial_en}S0001|Norvane|IMU9 sensor|Body 01*|2.5.0|[12]|[Wake on tap]|15%@15|35.0\u00b0C@97|"
                        "100 Hz|%1|{118}\n";
-    const QString s2 = "~{inertial_dis}S0002|~Norvane|~IMU9 sensor|~|~2.4.1|[12]|~||not present|%1|{yellow}|{118}\n";
+    const QString s2 = "~{inertial_dis}S0002|~Norvane|~IMU9 sensor|~|~2.4.1|[12]|[Wake by radio]|80%@80|not present|%1|{yellow}|{118}\n";
     const QString s5 = "{inertial_en}S0005|Norvane|IMU9 sensor|~|2.4.1|[20]|[Wake on tap]|80%@80|18.0\u00b0C@50|%1|"
                        "{yellow}|{118}\n";
     row("button refresh: every row", {}, tick("buttonTimer"), s2.arg("") + s1.arg("~{red}") + s5.arg("100 Hz")
