@@ -3,25 +3,16 @@
 #include <QCloseEvent>
 #include <QComboBox>
 #include <QCoreApplication>
-#include <QFile>
-#include <QGuiApplication>
-#include <QHeaderView>
 #include <QKeyEvent>
 #include <QMessageBox>
-#include <QPointer>
 #include <QProgressBar>
 #include <QScrollBar>
-#include <QSet>
 #include <QTableWidgetItem>
 #include <QTimer>
 
-#include <algorithm>
-#include <cmath>
 
 #include "BodyAssignmentPage.h"
-#include "ChannelComboBox.h"
 #include "RadioChannels.h"
-#include "SensorChannelCombo.h"
 #include "SensorTable.h"
 #include "SettingsCells.h"
 #include "TrackingPulsePage.h"
@@ -31,10 +22,7 @@
 #include "module/ControllerText.h"
 #include "module/IOManager.h"
 #include "module/IneritalMessageReceiver.h"
-#include "module/SensorIdentity.h"
 #include "module/VersionGate.h"
-#include "statusbar/BatteryBar.h"
-#include "statusbar/TemperatureBar.h"
 #include "ui_InertialSettingsDlg.h"
 
 using namespace SettingsCells;

@@ -1,30 +1,15 @@
 #include "WakeupModes.h"
 
-#include <QComboBox>
-#include <QCoreApplication>
-#include <QGuiApplication>
-#include <QHeaderView>
-#include <QMessageBox>
 #include <QPointer>
-#include <QProgressBar>
-#include <QTableWidgetItem>
 
-#include <algorithm>
 #include <cmath>
 
-#include "BodyAssignmentPage.h"
-#include "ChannelComboBox.h"
-#include "RadioChannels.h"
-#include "SensorChannelCombo.h"
 #include "SensorTable.h"
 #include "SettingsCells.h"
 #include "WakeupModes.h"
 #include "module/ControllerText.h"
 #include "module/IOManager.h"
-#include "module/SensorIdentity.h"
 #include "module/VersionGate.h"
-#include "statusbar/BatteryBar.h"
-#include "statusbar/TemperatureBar.h"
 #include "ui_InertialSettingsDlg.h"
 
 using namespace SettingsCells;
