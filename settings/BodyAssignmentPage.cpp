@@ -498,11 +498,7 @@ void BodyAssignmentPage::on_pushButton_select_clicked()
     const QByteArray line = ControllerText::latin(ControllerText::reply(reply));
     if (io->set_value("body inertial_sensor %s %s", id.constData(), line.constData()) != 0)
         report(tr("Error: Unable to set assignment of body"));
-    dialog->mark_table_stale();
-    selected_row = body;
-    update_tableWidget_bodies();
-    update_tableWidget_sensors();
-    activate_all_buttons();
+    reread_after_assignment(body);
 }
 
 void BodyAssignmentPage::on_pushButton_deselect_clicked()
@@ -520,6 +516,11 @@ void BodyAssignmentPage::on_pushButton_deselect_clicked()
     }
     if (io->set_value("body inertial_sensor %s none", id.constData()) != 0)
         report(tr("Error: Unable to delete assignment of body"));
+    reread_after_assignment(body);
+}
+
+void BodyAssignmentPage::reread_after_assignment(int body)
+{
     dialog->mark_table_stale();
     selected_row = body;
     update_tableWidget_bodies();

@@ -80,6 +80,8 @@ private:
     bool read_bool(const char* format, int body, const QString& failure, bool* value) const;
     QString read_text(const QString& failure, const char* format, int body) const;
     void open_filter(int row);
+    // Both tables and the buttons again, with `body` kept current.
+    void reread_after_assignment(int body);
     // The body row of the sensor chosen on the "Settings" page; -1 without.
     int body_row_of_settings_sensor() const;
 
