@@ -484,13 +484,12 @@ void BodyAssignmentPage::on_pushButton_select_clicked()
         return;
     }
     const QByteArray id = body_id(body);
-    char reply[IOManager::ReplyCapacity];
-    if (io->get_string(reply, "body inertial_sensor %s", id.constData()) != 0) {
-        report(tr("Error: Unable to get info of assignment of body."));
+    QString current;
+    if (!read_assignment(id, &current))
         return;
-    }
-    if (ControllerText::reply(reply) != None && io->set_value("body inertial_sensor %s none", id.constData()) != 0)
+    if (current != None && io->set_value("body inertial_sensor %s none", id.constData()) != 0)
         report(tr("Error: Unable to delete assignment of body"));
+    char reply[IOManager::ReplyCapacity];
     if (io->get_string(reply, "inertial sensor d%.2d", sensor + 1) != 0) {
         report(tr("Error: Unable to assgin sensor to body. No sensor info."));
         return;
@@ -509,14 +508,23 @@ void BodyAssignmentPage::on_pushButton_deselect_clicked()
         return;
     }
     const QByteArray id = body_id(body);
-    char reply[IOManager::ReplyCapacity];
-    if (io->get_string(reply, "body inertial_sensor %s", id.constData()) != 0) {
-        report(tr("Error: Unable to get info of assignment of body."));
+    QString current;
+    if (!read_assignment(id, &current))
         return;
-    }
     if (io->set_value("body inertial_sensor %s none", id.constData()) != 0)
         report(tr("Error: Unable to delete assignment of body"));
     reread_after_assignment(body);
+}
+
+bool BodyAssignmentPage::read_assignment(const QByteArray& id, QString* sensor) const
+{
+    char reply[IOManager::ReplyCapacity];
+    if (io->get_string(reply, "body inertial_sensor %s", id.constData()) != 0) {
+        report(tr("Error: Unable to get info of assignment of body."));
+        return false;
+    }
+    *sensor = ControllerText::reply(reply);
+    return true;
 }
 
 void BodyAssignmentPage::reread_after_assignment(int body)

@@ -80,6 +80,8 @@ private:
     bool read_bool(const char* format, int body, const QString& failure, bool* value) const;
     QString read_text(const QString& failure, const char* format, int body) const;
     void open_filter(int row);
+    // The sensor on body `id`, "none" for none; false when it was not told.
+    bool read_assignment(const QByteArray& id, QString* sensor) const;
     // Both tables and the buttons again, with `body` kept current.
     void reread_after_assignment(int body);
     // The body row of the sensor chosen on the "Settings" page; -1 without.
