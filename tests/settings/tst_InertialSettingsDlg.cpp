@@ -89,10 +89,8 @@ private slots:
     void channels() { run(); }
     void channelScan_data();
     void channelScan() { run(); }
-    void bodies_data();
-    void bodies() { run(); }
-    void trackingPulse_data();
-    void trackingPulse() { run(); }
+    void laterPages_data();
+    void laterPages() { run(); }
 
 private:
     static void columns();
@@ -766,32 +764,32 @@ void tst_InertialSettingsDlg::channelScan_data()
 
 // --- "Hybrid Bodies" and "Tracking Frequency" -------------------------------------
 
-void tst_InertialSettingsDlg::bodies_data()
+void tst_InertialSettingsDlg::laterPages_data()
 {
     columns();
-    // On page 2 with body `row` and sensor row `sensor` current: what the action
-    // saw, each body row as "Cal. icon, name, device ID, filter", the buttons on.
-    auto on_page = [this](int row, int sensor, const std::function<QString()>& action) {
+    // Page 2 with body `row` and sensor row `sensor` current: what the action saw,
+    // each body row as "Cal. icon, name, device ID, filter", then the buttons on.
+    auto bodies = [this](int row, int sensor, const std::function<QString()>& action) {
         return [=] {
             QTest::keyClick(dialog, Qt::Key_2);
-            auto* bodies = w<QTableWidget>("tableWidget_bodies");
-            bodies->setCurrentCell(row, 0);
+            auto* table = w<QTableWidget>("tableWidget_bodies");
+            table->setCurrentCell(row, 0);
             w<QTableWidget>("tableWidget_sensors")->setCurrentCell(sensor, 0);
-            emit bodies->cellClicked(row, 0);
+            emit table->cellClicked(row, 0);
             QStringList seen{action ? action() : QString()};
-            for (int r = 0; r < bodies->rowCount(); ++r)
-                seen << icon_name(bodies->item(r, 4)->icon()) + ' ' + bodies->item(r, 1)->text() + ' '
-                            + bodies->item(r, 3)->text() + ' ' + bodies->item(r, 5)->text();
-            for (const char* name : {"pushButton_select", "pushButton_deselect", "pushButton_filter",
-                                     "pushButton_hybridBodyCalibration", "pushButton_calibration"})
-                seen << QString::number(w(name)->isEnabled());
+            for (int r = 0; r < table->rowCount(); ++r)
+                seen << QStringList{icon_name(table->item(r, 4)->icon()), table->item(r, 1)->text(),
+                                    table->item(r, 3)->text(), table->item(r, 5)->text()}.join(' ');
+            for (const char* name : {"select", "deselect", "filter", "hybridBodyCalibration", "calibration"})
+                seen << QString::number(w((QByteArray("pushButton_") + name).constData())->isEnabled());
             return seen.join('|');
         };
     };
+    auto click = [this](const char* name) { w<QPushButton>(name)->click(); };
     const QString typical = "green Body 01 S0001 |yellow Body 02 S0003 |red Body 03  |green Body 04  |red Body 05  |"
                             "red Body 06  |";
-    row("0 bodies: nothing to choose", {"body number_of_bodies standard=0"}, on_page(0, 0, {}), "|0|0|0|0|0");
-    row("the maximum reached, then left", {}, on_page(-1, 0, [this] {
+    row("0 bodies: nothing to choose", {"body number_of_bodies standard=0"}, bodies(0, 0, {}), "|0|0|0|0|0");
+    row("the maximum reached, then left", {}, bodies(-1, 0, [this] {
         auto* count = w<QSpinBox>("spinBox_numBodies");
         count->setValue(8);
         const QString reached = w<QLabel>("label_error2")->text();
@@ -800,70 +798,56 @@ void tst_InertialSettingsDlg::bodies_data()
     }), Red.arg("Max. number of bodies is reached!") + "//8|" + typical + "red Body 07  |0|0|0|0|0\n"
         "> standard number_of_bodies 8\n> standard number_of_bodies 7");
     const QByteArray b = "body filter6d_";
-    const QString e = "\n! Error: Unable to get inertial info of body";
     row("filter texts: standard, custom, hybrid custom",
         {b + "enabled standard b01=yes", b + "preset standard b01=preset6d_soft", "filter6d preset_desc preset6d_soft=\"Soft\"",
          b + "enabled standard b02=yes", b + "preset standard b02=preset6d_user_custom", b + "strength standard b02=0.5",
          b + "prediction standard b02=0.02", b + "mode standard b02=m2", "filter6d mode_desc m2=\"Linear\"",
          b + "enabled standard b04=yes", b + "preset standard b04=preset6d_hybrid_custom", b + "prediction standard b04=0.01",
-         "inertial sensor_handeye " + S1 + "=done"}, on_page(0, 0, {}),
+         "inertial sensor_handeye " + S1 + "=done"}, bodies(0, 0, {}),
         "|green Body 01 S0001 Soft|yellow Body 02 S0003 0.50/20ms/Linear|red Body 03  |green Body 04  10ms/hybrid|"
         "red Body 05  |red Body 06  |0|1|1|1|1");
-    row("select on a carrying body clears it first", {}, on_page(0, 1, [this] {
-        w<QPushButton>("pushButton_select")->click();
-        return QString();
-    }), "|yellow" + typical.mid(5) + "1|1|1|1|1\n> body inertial_sensor standard b01 none\n"
-        "> body inertial_sensor standard b01 S2");
-    row("select refused, deselect without a body", {"body inertial_sensor standard b03"}, on_page(2, 0, [this] {
-        w<QPushButton>("pushButton_select")->click();
+    row("select on a carrying body clears it first", {}, bodies(0, 1, [=] { click("pushButton_select"); return ""; }),
+        "|yellow" + typical.mid(5) + "1|1|1|1|1\n> body inertial_sensor standard b01 none\n> body inertial_sensor standard b01 S2");
+    row("select refused, deselect without a body", {"body inertial_sensor standard b03"}, bodies(2, 0, [=] {
+        click("pushButton_select");
         w<QTableWidget>("tableWidget_bodies")->setCurrentCell(-1, -1);
         QMetaObject::invokeMethod(dialog, "on_pushButton_deselect_clicked");   // the button is off by then
-        return QString();
-    }), '|' + typical + "1|0|0|0|1" + e.repeated(2) + "\n! Error: Unable to get info of assignment of body.\n! Error: Unable to delete assignment "
-        "of body. No body is selected");
-    row("a quoted name: shown bare, written quoted, once", {"body desc standard b02=\"Left \"\"hand\""}, on_page(1, 0, [this] {
+        return "";
+    }), '|' + typical + "1|0|0|0|1" + QString("\n! Error: Unable to get inertial info of body").repeated(2) + "\n! Error: "
+        "Unable to get info of assignment of body.\n! Error: Unable to delete assignment of body. No body is selected");
+    row("a quoted name shown bare, written quoted once; calibrations", {"body desc standard b02=\"Left \"\"hand\""},
+        bodies(1, 0, [=] {
         auto* name = w<QTableWidget>("tableWidget_bodies")->item(1, 1);
         const QString shown = name->text();
         name->setText("Left hand");
         name->setText("Right");
-        return shown;
-    }), "Left hand|" + QString(typical).replace("Body 02", "Right") + "1|1|1|1|1\n> body desc standard b02 \"Right\"");
-    row("calibrations: hybrid from the row, body by message", {}, on_page(1, 0, [this] {
-        w<QPushButton>("pushButton_hybridBodyCalibration")->click();
-        w<QPushButton>("pushButton_calibration")->click();
-        return QString::number(dialog->isVisible());
-    }), "0|" + typical + "1|1|1|1|1\n! OpenHybridBodyCalibration standard|2|full\n! OpenBodyCalDialog standard b02");
-}
+        click("pushButton_hybridBodyCalibration");   // the body from the row
+        click("pushButton_calibration");              // another module's, by message: this dialog steps aside
+        return shown + QString::number(dialog->isVisible());
+    }), "Left hand0|" + QString(typical).replace("Body 02", "Right") + "1|1|1|1|1\n> body desc standard b02 \"Right\"\n"
+        "! OpenHybridBodyCalibration standard|2|full\n! OpenBodyCalDialog standard b02");
 
-void tst_InertialSettingsDlg::trackingPulse_data()
-{
-    columns();
-    // Keys on the open dialog, then page 3 as "checked button, value, sensors offered".
-    auto keys = [this](const QList<Qt::Key>& pressed, const char* check = nullptr) {
+    // Keys on the open dialog (F12: check `radio`), then page 3 as "checked button, value, sensor offered, usable".
+    auto pulse = [this](const QList<Qt::Key>& pressed, const char* radio = nullptr) {
         return [=] {
-            for (Qt::Key key : pressed) {
-                if (key == Qt::Key_F12)
-                    w<QRadioButton>(check)->setChecked(true);
-                else
-                    QTest::keyClick(dialog, key);
-            }
+            for (Qt::Key key : pressed)
+                key == Qt::Key_F12 ? w<QRadioButton>(radio)->setChecked(true) : QTest::keyClick(dialog, key);
             QStringList seen;
             for (const char* name : {"radioButton_cameraSynchronous", "radioButton_inertialSensor", "radioButton_frequency"})
                 if (w<QRadioButton>(name)->isChecked())
                     seen << QString(name).mid(12);
             auto* combo = w<QComboBox>("comboBox_inertialSensor");
-            seen << QString::number(w<QDoubleSpinBox>("doubleSpinBox_frequency_2")->value()) << combo->currentText()
-                 << QString::number(combo->isEnabled());
-            return seen.join(' ');
+            return (seen << QString::number(w<QDoubleSpinBox>("doubleSpinBox_frequency_2")->value()) << combo->currentText()
+                         << QString::number(combo->isEnabled())).join(' ');
         };
     };
-    const QList<Qt::Key> around{Qt::Key_2, Qt::Key_3, Qt::Key_1, Qt::Key_3};
-    row("page changes alone send nothing", {}, keys(around), "cameraSynchronous 60 S0001 0");
-    row("a sync card at 5 Hz shows 60", {"synccard output_frequency=5"}, keys({Qt::Key_3}), "cameraSynchronous 60 S0001 0");
-    row("\"frequency\" without a number", {"tracking pulse=frequency fast"}, keys({Qt::Key_3}), "frequency 100 S0001 0");
-    row("a sensor chosen goes out once", {}, keys({Qt::Key_3, Qt::Key_F12, Qt::Key_1, Qt::Key_3}, "radioButton_inertialSensor"),
+    row("page changes alone send nothing", {}, pulse({Qt::Key_2, Qt::Key_3, Qt::Key_1, Qt::Key_3}),
+        "cameraSynchronous 60 S0001 0");
+    row("a sync card at 5 Hz shows 60", {"synccard output_frequency=5"}, pulse({Qt::Key_3}), "cameraSynchronous 60 S0001 0");
+    row("\"frequency\" without a number", {"tracking pulse=frequency fast"}, pulse({Qt::Key_3}), "frequency 100 S0001 0");
+    row("a sensor chosen goes out once", {}, pulse({Qt::Key_3, Qt::Key_F12, Qt::Key_1, Qt::Key_3}, "radioButton_inertialSensor"),
         "inertialSensor 100 S0001 1\n> tracking pulse inertial_sensor S1");
-    row("before 1.21 a change is refused", {"version=1.20"}, keys({Qt::Key_F12, Qt::Key_3}, "radioButton_frequency"),
+    row("before 1.21 a change is refused", {"version=1.20"}, pulse({Qt::Key_F12, Qt::Key_3}, "radioButton_frequency"),
         "frequency 100  0\n! Error: Unable to get radio channel of sensor 6" + QString("\n! Error: Unable to set inertial "
         "tracking settings").repeated(2));   // each page change and the closing try again
 }

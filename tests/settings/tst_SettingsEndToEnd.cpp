@@ -134,19 +134,19 @@ QTEST_MAIN(tst_SettingsEndToEnd)
 
 void tst_SettingsEndToEnd::bodiesAndPulseReachTheController()
 {
-    // 10232 moves from body 2 to body 3, which is renamed; the output then
-    // follows 10232.
+    // 10232 moves from body 2 to body 3, which is renamed; the output then follows 10232.
     open([&](QTableWidget* table) {
         QWidget* dialog = table->window();
         auto* bodies = dialog->findChild<QTableWidget*>("tableWidget_bodies");
+        auto on_body = [&](int row, const char* button) {
+            bodies->setCurrentCell(row, 0);
+            emit bodies->cellClicked(row, 0);
+            dialog->findChild<QPushButton*>(button)->click();
+        };
         QTest::keyClick(dialog, Qt::Key_2);
-        bodies->setCurrentCell(1, 0);
-        emit bodies->cellClicked(1, 0);
-        dialog->findChild<QPushButton*>("pushButton_deselect")->click();
-        bodies->setCurrentCell(2, 0);
+        on_body(1, "pushButton_deselect");
         dialog->findChild<QTableWidget*>("tableWidget_sensors")->setCurrentCell(1, 0);
-        emit bodies->cellClicked(2, 0);
-        dialog->findChild<QPushButton*>("pushButton_select")->click();
+        on_body(2, "pushButton_select");
         bodies->item(2, 1)->setText("Wand");
         QTest::keyClick(dialog, Qt::Key_3);
         dialog->findChild<QRadioButton*>("radioButton_inertialSensor")->click();
