@@ -495,6 +495,8 @@ void BodyAssignmentPage::on_pushButton_select_clicked()
         return;
     }
     const QByteArray line = ControllerText::latin(ControllerText::reply(reply));
+    // A sensor sits on one body at a time: taken from another, it moves here.
+    dialog->deleteAssignmentIfSensorIsAlreadyAssigned(line.constData());
     if (io->set_value("body inertial_sensor %s %s", id.constData(), line.constData()) != 0)
         report(tr("Error: Unable to set assignment of body"));
     reread_after_assignment(body);

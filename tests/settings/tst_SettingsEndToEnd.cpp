@@ -138,15 +138,11 @@ void tst_SettingsEndToEnd::bodiesAndPulseReachTheController()
     open([&](QTableWidget* table) {
         QWidget* dialog = table->window();
         auto* bodies = dialog->findChild<QTableWidget*>("tableWidget_bodies");
-        auto on_body = [&](int row, const char* button) {
-            bodies->setCurrentCell(row, 0);
-            emit bodies->cellClicked(row, 0);
-            dialog->findChild<QPushButton*>(button)->click();
-        };
         QTest::keyClick(dialog, Qt::Key_2);
-        on_body(1, "pushButton_deselect");
         dialog->findChild<QTableWidget*>("tableWidget_sensors")->setCurrentCell(1, 0);
-        on_body(2, "pushButton_select");
+        bodies->setCurrentCell(2, 0);
+        emit bodies->cellClicked(2, 0);
+        dialog->findChild<QPushButton*>("pushButton_select")->click();   // taken off body 2 on the way
         bodies->item(2, 1)->setText("Wand");
         QTest::keyClick(dialog, Qt::Key_3);
         dialog->findChild<QRadioButton*>("radioButton_inertialSensor")->click();
