@@ -728,7 +728,6 @@ void InertialSettingsDlg::deleteAssignmentIfSensorIsAlreadyAssigned(const char* 
 
 void InertialSettingsDlg::update_table() { sensor_table->update_table(); }
 void InertialSettingsDlg::getChannelsOfDongles(QStringList& out) const { radio_channels->getChannelsOfDongles(out); }
-void InertialSettingsDlg::change_channel_of_dongle(QString transceiver, int channel) { radio_channels->change_channel_of_dongle(transceiver, channel); }
 void InertialSettingsDlg::on_pushButton_scanAvailableChannels_clicked() { radio_channels->scan_available_channels(); }
 void InertialSettingsDlg::on_comboBox_mode_activated(const QString& text) { wakeup_modes->page_mode_chosen(text); }
 void InertialSettingsDlg::wakeup_mode_active(const QString& text)
@@ -736,18 +735,3 @@ void InertialSettingsDlg::wakeup_mode_active(const QString& text)
     wakeup_modes->wakeup_mode_chosen(qobject_cast<QComboBox*>(sender()), text);
 }
 void InertialSettingsDlg::on_doubleSpinBox_frequency_valueChanged(double value) { wakeup_modes->frequency_chosen(value); }
-
-QList<int> InertialSettingsDlg::busy_channels(const QString& transceiver) const
-{
-    return radio_channels->marked_channels.value(transceiver);
-}
-
-QStringList InertialSettingsDlg::get_onlyPresent_sensorList_of_dongle(QString identity)
-{
-    return sensor_table->get_onlyPresent_sensorList_of_dongle(identity);
-}
-
-QStringList InertialSettingsDlg::get_onlyNotPresent_sensorList_of_dongle(QString identity)
-{
-    return sensor_table->get_onlyNotPresent_sensorList_of_dongle(identity);
-}

@@ -86,23 +86,15 @@ public:
 
     void wait_cursor_active(bool active);
 
-    // The parts of the "Settings" page; other dialogs and the channel combos
-    // reach them through the few calls below.
+    // Two parts of the "Settings" page, for whoever drives the dialog; the
+    // add sensor dialog and the channel combos need only the two calls below.
     SensorTable* table() const { return sensor_table; }
     RadioChannels* channels() const { return radio_channels; }
-    WakeupModes* modes() const { return wakeup_modes; }
 
     // Rebuilds the sensor table from the controller.
     void update_table();
     // The current channel of every transceiver row, as decimal text.
     void getChannelsOfDongles(QStringList& out) const;
-    // Moves every sensor of the transceiver, then the transceiver itself;
-    // sensors left behind are offered for retry.
-    void change_channel_of_dongle(QString transceiver, int channel);
-    // Busy channels of a transceiver as the last scan found them.
-    QList<int> busy_channels(const QString& transceiver) const;
-    QStringList get_onlyPresent_sensorList_of_dongle(QString identity);
-    QStringList get_onlyNotPresent_sensorList_of_dongle(QString identity);
 
     // Warm-up and deletion.
     int start_warmup(bool on);

@@ -21,6 +21,8 @@
 #include "module/InertialTrackingModule.h"
 #include "settings/ChannelComboBox.h"
 #include "settings/InertialSettingsDlg.h"
+#include "settings/RadioChannels.h"
+#include "settings/SensorTable.h"
 
 namespace {
 
@@ -708,13 +710,13 @@ void tst_InertialSettingsDlg::channels_data()
         + last);
     row("a sleeping tap sensor is named, not moved", {"inertial sensor_radio_channel " + S3 + "=30"}, [this] {
         answer_box(QMessageBox::Escape);
-        dialog->change_channel_of_dongle(QString(T2), 30);
+        dialog->channels()->change_channel_of_dongle(QString(T2), 30);
         return box.section('\n', 2, 2);
     }, "Sensor: S5\n> inertial sensor_radio_channel S3 30 @10000\n> inertial transceiver_radio_channel T2 30 @10000");
     row("a transceiver's sensors, present or not", {}, [this] {
         script({"inertial sensor_present " + S3});
-        return (dialog->get_onlyPresent_sensorList_of_dongle(QString(T2)) + QStringList{"|"}
-                + dialog->get_onlyNotPresent_sensorList_of_dongle(QString(T2))).join(' ');
+        return (dialog->table()->get_onlyPresent_sensorList_of_dongle(QString(T2)) + QStringList{"|"}
+                + dialog->table()->get_onlyNotPresent_sensorList_of_dongle(QString(T2))).join(' ');
     }, "| S5\n! Error: Unable to get present status of sensor 1\n! Error: Unable to get present status of sensor 1");
     auto sensor = [this](const char* channel) {
         return [=] {
@@ -739,7 +741,7 @@ void tst_InertialSettingsDlg::channelScan_data()
                     "inertial transceiver_suggested_radio_channel " + T1 + "=14"});
             w<QPushButton>("pushButton_scanAvailableChannels")->click();
             QStringList busy;
-            for (int channel : dialog->busy_channels(QString(T1)))
+            for (int channel : dialog->channels()->marked_channels.value(QString(T1)))
                 busy << QString::number(channel);
             auto* bar = w<QProgressBar>("progressBar");
             // The grid shows the marks: a busy channel greyed, the suggestion green.
