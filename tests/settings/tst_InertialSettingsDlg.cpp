@@ -490,8 +490,10 @@ void tst_InertialSettingsDlg::refresh_data()
     row("tracking lost: the page given up", {}, [this] {
         script({"inertial available=no"});
         QMetaObject::invokeMethod(dialog, "update_buttons");
-        return page() + '\n' + w<QLabel>("label_error")->text() + QString::number(w("progressBar")->isVisible());
-    }, "tableWidget numBodies |  | Warmup start\n" + Red.arg("Hybrid tracking is not available!") + "0");
+        QTest::keyClick(dialog, Qt::Key_3);   // the tracking page given up too
+        return page() + '\n' + w<QLabel>("label_error")->text() + QString::number(w("progressBar")->isVisible())
+               + QString::number(w("frame_trackingPulse")->isEnabled());
+    }, "tableWidget numBodies |  | Warmup start\n" + Red.arg("Hybrid tracking is not available!") + "00");
     row("adding sensors pauses it", {}, [this] {
         QString during;
         ModalDialogHelper::when_active("AddInertialSensorDlg", [&](QWidget* w) {
@@ -847,8 +849,9 @@ void tst_InertialSettingsDlg::laterPages_data()
         "cameraSynchronous 60 S0001 0");
     row("a sync card at 5 Hz shows 60", {"synccard output_frequency=5"}, pulse({Qt::Key_3}), "cameraSynchronous 60 S0001 0");
     row("\"frequency\" without a number", {"tracking pulse=frequency fast"}, pulse({Qt::Key_3}), "frequency 100 S0001 0");
-    row("a sensor chosen goes out once", {}, pulse({Qt::Key_3, Qt::Key_F12, Qt::Key_1, Qt::Key_3}, "radioButton_inertialSensor"),
-        "inertialSensor 100 S0001 1\n> tracking pulse inertial_sensor S1");
+    row("a sensor chosen goes out once, even refused", {"tracking pulse inertial_sensor " + S1},
+        pulse({Qt::Key_3, Qt::Key_F12, Qt::Key_1, Qt::Key_3}, "radioButton_inertialSensor"),
+        "cameraSynchronous 60 S0001 0\n> tracking pulse inertial_sensor S1\n! Error: Unable to set inertial tracking to sensor");
     row("before 1.21 a change is refused", {"version=1.20"}, pulse({Qt::Key_F12, Qt::Key_3}, "radioButton_frequency"),
         "frequency 100  0\n! Error: Unable to get radio channel of sensor 6" + QString("\n! Error: Unable to set inertial "
         "tracking settings").repeated(2));   // each page change and the closing try again
