@@ -508,7 +508,10 @@ void AddInertialSensorDlg::set_buttons_after_scan()
     ui->comboBox_scanMode->setEnabled(true);
     if (channel_combo_was_enabled)
         ui->comboBox_channel->setEnabled(true);
-    enable_if_possible_pushButton_apply(!found.isEmpty());
+    // Sensors were found: Apply is offered even before any is ticked, and
+    // only then says that nothing is chosen.
+    if (!found.isEmpty())
+        ui->pushButton_apply->setEnabled(true);
 
     QString what;
     if (channels.size() == 1 && channels.first() == 0)

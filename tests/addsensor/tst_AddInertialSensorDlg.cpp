@@ -384,7 +384,7 @@ void tst_AddInertialSensorDlg::acceptAllAndClicks()
         w<QPushButton>("pushButton_scan")->click();   // nothing to apply while scanning again
         seen << QString::number(apply->isEnabled());
         QMetaObject::invokeMethod(dialog, "scan_channels");
-        QCOMPARE(seen.join(' '), QString("0 S0007 IMU9 x,S0001 IMU9 -,C0008 IMU6 x1 S0007 IMU9 o,S0001 IMU9 -,"
+        QCOMPARE(seen.join(' '), QString("1 S0007 IMU9 x,S0001 IMU9 -,C0008 IMU6 x1 S0007 IMU9 o,S0001 IMU9 -,"
                                          "C0008 IMU6 x10 0 1 0"));
     });
     QCOMPARE(box, QString("Warning: Please select a channel to scan"));

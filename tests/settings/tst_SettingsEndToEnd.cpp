@@ -4,6 +4,7 @@
 #include <QComboBox>
 #include <QMessageBox>
 #include <QPushButton>
+#include <QRadioButton>
 #include <QTableWidget>
 
 #include "HostHarness.h"
@@ -24,6 +25,7 @@ private slots:
     void cleanup();
     void wakeupModesReachTheSensors();
     void deletedSensorIsGone();
+    void bodiesAndPulseReachTheController();
 
 private:
     // Opens "In&ertial Sensor", runs `inside` on its table, leaves by Exit.
@@ -129,3 +131,24 @@ void tst_SettingsEndToEnd::deletedSensorIsGone()
 
 QTEST_MAIN(tst_SettingsEndToEnd)
 #include "tst_SettingsEndToEnd.moc"
+
+void tst_SettingsEndToEnd::bodiesAndPulseReachTheController()
+{
+    // 10232 moves from body 2 to body 3, which is renamed; the output then follows 10232.
+    open([&](QTableWidget* table) {
+        QWidget* dialog = table->window();
+        auto* bodies = dialog->findChild<QTableWidget*>("tableWidget_bodies");
+        QTest::keyClick(dialog, Qt::Key_2);
+        dialog->findChild<QTableWidget*>("tableWidget_sensors")->setCurrentCell(1, 0);
+        bodies->setCurrentCell(2, 0);
+        emit bodies->cellClicked(2, 0);
+        dialog->findChild<QPushButton*>("pushButton_select")->click();   // taken off body 2 on the way
+        bodies->item(2, 1)->setText("Wand");
+        QTest::keyClick(dialog, Qt::Key_3);
+        dialog->findChild<QRadioButton*>("radioButton_inertialSensor")->click();
+        choose(dialog->findChild<QComboBox*>("comboBox_inertialSensor"), "10232");
+    });
+    QCOMPARE(ask("inertial body_of_sensor NRV IMU3 '10232'") + '|' + ask("body desc standard b03") + '|'
+                 + ask("body inertial_sensor standard b02") + '|' + ask("tracking pulse"),
+             QByteArray("standard b03|\"Wand\"|none|inertial_sensor NRV IMU3 '10232'"));
+}

@@ -90,5 +90,9 @@ void TypicalSystem::install(FakeController& fake) const
         fake.reply("body desc " + body, "\"Body " + index('b', b).mid(2) + '"');
         fake.reply("body calibrated " + body, calibrated.value(b - 1, "no"));
         fake.reply("body inertial_sensor " + body, carried);
+        fake.reply("body active " + body, "yes");
+        fake.reply("body filter6d_enabled " + body, "no");
     }
+    fake.reply("tracking pulse", "synchronous_cameras");
+    fake.reply("synccard output_frequency", "60.0");
 }

@@ -13,7 +13,8 @@ class FakeController;
 // S0001 (on body 1) on the first, S0003 (on body 2, tap mode) and S0005
 // (asleep, tap mode) on the second, C0004 on cable; six bodies of which 3, 5
 // and 6 are neither calibrated nor carry a sensor; unlocked, inertial
-// tracking available, no warm-up, frequency 100 Hz within 1 to 500. A test
+// tracking available, no warm-up, frequency 100 Hz within 1 to 500; every
+// body active without a filter, the tracking pulse from the cameras at 60 Hz. A test
 // changes the description before install() or scripts single lines after it.
 class TypicalSystem
 {
