@@ -298,8 +298,11 @@ bool TourRunner::perform(QWidget* modal, Visit* visit)
             pages->setCurrentIndex(step.index);
         return true;
     case Step::SelectRow:
-        if (auto* table = qobject_cast<QTableWidget*>(target); table && table->rowCount() > step.index)
+        // As a click would: the dialogs follow the clicked cell, not the selection.
+        if (auto* table = qobject_cast<QTableWidget*>(target); table && table->rowCount() > step.index) {
             table->setCurrentCell(step.index, 0);
+            emit table->cellClicked(step.index, 0);
+        }
         return true;
     case Step::WaitEnabled:
     case Step::WaitClosed:

@@ -68,7 +68,7 @@ tour() { # language folder
 echo "== tour from the unpacked package, English and German"
 tour C.UTF-8 tour-en
 tour de_DE.UTF-8 tour-de
-expected="add-sensor calibration-progress countdown delete-sensor-question hybrid-body hybrid-body-help
+expected="add-sensor calibration-progress countdown delete-sensor-question filter filter-help hybrid-body hybrid-body-help
 hybrid-body-result inertial-sensor inertial-sensor-calibration inertial-sensor-calibration-help
 inertial-sensor-calibration-residuals inertial-sensor-calibration-result inertial-sensor-hybrid-bodies
 inertial-sensor-tracking-frequency main-window"

@@ -198,6 +198,137 @@
     </message>
 </context>
 <context>
+    <name>BodyAssignmentPage</name>
+    <message>
+        <source>ID</source>
+        <translation>ID</translation>
+    </message>
+    <message>
+        <source>Name</source>
+        <translation>Name</translation>
+    </message>
+    <message>
+        <source>Model</source>
+        <translation>Modell</translation>
+    </message>
+    <message>
+        <source>Device ID</source>
+        <translation>Geräte-ID</translation>
+    </message>
+    <message>
+        <source>Cal.</source>
+        <translation>Kal.</translation>
+    </message>
+    <message>
+        <source>Filter</source>
+        <translation>Filter</translation>
+    </message>
+    <message>
+        <source>Vendor-Model-Serial</source>
+        <translation>Hersteller-Modell-Seriennummer</translation>
+    </message>
+    <message>
+        <source>Active</source>
+        <translation>Aktiv</translation>
+    </message>
+    <message>
+        <source>Vendor</source>
+        <translation>Hersteller</translation>
+    </message>
+    <message>
+        <source>Used</source>
+        <translation>Verwendet</translation>
+    </message>
+    <message>
+        <source>Error: Unable to get number of inertial sensors</source>
+        <translation>Fehler: Die Anzahl der Inertialsensoren kann nicht gelesen werden</translation>
+    </message>
+    <message>
+        <source>Error: Unable to get serial number of inertial sensor</source>
+        <translation>Fehler: Die Seriennummer des Inertialsensors kann nicht gelesen werden</translation>
+    </message>
+    <message>
+        <source>Error: Unable to get maximum number of bodies</source>
+        <translation>Fehler: Die maximale Anzahl der Körper kann nicht gelesen werden</translation>
+    </message>
+    <message>
+        <source>Error: Unable to get number of bodies</source>
+        <translation>Fehler: Die Anzahl der Körper kann nicht gelesen werden</translation>
+    </message>
+    <message>
+        <source>Error: Unable to set number of bodies to %1</source>
+        <translation>Fehler: Die Anzahl der Körper kann nicht auf %1 gesetzt werden</translation>
+    </message>
+    <message>
+        <source>Error: Unable to set number of bodies</source>
+        <translation>Fehler: Die Anzahl der Körper kann nicht gesetzt werden</translation>
+    </message>
+    <message>
+        <source>Max. number of bodies is reached!</source>
+        <translation>Die maximale Anzahl der Körper ist erreicht!</translation>
+    </message>
+    <message>
+        <source>Error: Unable to get info whether body is active</source>
+        <translation>Fehler: Es kann nicht gelesen werden, ob der Körper aktiv ist</translation>
+    </message>
+    <message>
+        <source>Error: Unable to get calibration info of body</source>
+        <translation>Fehler: Die Kalibrierinformationen des Körpers können nicht gelesen werden</translation>
+    </message>
+    <message>
+        <source>Error: Unable to get filter info of body</source>
+        <translation>Fehler: Die Filterinformationen des Körpers können nicht gelesen werden</translation>
+    </message>
+    <message>
+        <source>Error: Unable to get filter preset info of body</source>
+        <translation>Fehler: Die Filtervoreinstellung des Körpers kann nicht gelesen werden</translation>
+    </message>
+    <message>
+        <source>Error: Unable to get filter preset description</source>
+        <translation>Fehler: Die Beschreibung der Filtervoreinstellung kann nicht gelesen werden</translation>
+    </message>
+    <message>
+        <source>hybrid</source>
+        <translation>hybrid</translation>
+    </message>
+    <message>
+        <source>Error: Unable to get inertial info of body</source>
+        <translation>Fehler: Die Inertialinformationen des Körpers können nicht gelesen werden</translation>
+    </message>
+    <message>
+        <source>Error: Unable to assgin sensor to body. No body is selected</source>
+        <translation>Fehler: Der Sensor kann keinem Körper zugeordnet werden. Es ist kein Körper ausgewählt</translation>
+    </message>
+    <message>
+        <source>Error: Unable to assgin sensor to body. No sensor is selected</source>
+        <translation>Fehler: Der Sensor kann keinem Körper zugeordnet werden. Es ist kein Sensor ausgewählt</translation>
+    </message>
+    <message>
+        <source>Error: Unable to delete assignment of body</source>
+        <translation>Fehler: Die Zuordnung des Körpers kann nicht gelöscht werden</translation>
+    </message>
+    <message>
+        <source>Error: Unable to assgin sensor to body. No sensor info.</source>
+        <translation>Fehler: Der Sensor kann keinem Körper zugeordnet werden. Keine Sensorinformationen.</translation>
+    </message>
+    <message>
+        <source>Error: Unable to set assignment of body</source>
+        <translation>Fehler: Die Zuordnung des Körpers kann nicht gesetzt werden</translation>
+    </message>
+    <message>
+        <source>Error: Unable to delete assignment of body. No body is selected</source>
+        <translation>Fehler: Die Zuordnung des Körpers kann nicht gelöscht werden. Es ist kein Körper ausgewählt</translation>
+    </message>
+    <message>
+        <source>Error: Unable to get info of assignment of body.</source>
+        <translation>Fehler: Die Zuordnung des Körpers kann nicht gelesen werden.</translation>
+    </message>
+    <message>
+        <source>Error: Unable to set body description %1</source>
+        <translation>Fehler: Die Beschreibung von Körper %1 kann nicht gesetzt werden</translation>
+    </message>
+</context>
+<context>
     <name>CalibrationProgressDialog</name>
     <message>
         <source>Calibration Progress</source>
@@ -348,6 +479,46 @@ Diese Kalibrierung kann zurzeit nicht unterbrochen werden!</translation>
     <message>
         <source>expected &quot;norvane ok&quot;</source>
         <translation>erwartet: „norvane ok“</translation>
+    </message>
+    <message>
+        <source>the controller closed the connection</source>
+        <translation>der Controller hat die Verbindung geschlossen</translation>
+    </message>
+    <message>
+        <source>The %1 is not answering since %2 (%3).</source>
+        <translation>%1 antwortet seit %2 nicht (%3).</translation>
+    </message>
+    <message>
+        <source>not answering since %1</source>
+        <translation>antwortet seit %1 nicht</translation>
+    </message>
+    <message>
+        <source>The %1 is answering again.</source>
+        <translation>%1 antwortet wieder.</translation>
+    </message>
+    <message>
+        <source>connected</source>
+        <translation>verbunden</translation>
+    </message>
+    <message>
+        <source>the controller is not answering since %1</source>
+        <translation>der Controller antwortet seit %1 nicht</translation>
+    </message>
+    <message>
+        <source>The controller sent a reply that does not fit: %1.</source>
+        <translation>Der Controller hat eine Antwort gesendet, die nicht passt: %1.</translation>
+    </message>
+    <message>
+        <source>The controller sent something that is not its language: %1.</source>
+        <translation>Der Controller hat etwas gesendet, das nicht seine Sprache ist: %1.</translation>
+    </message>
+    <message>
+        <source>reply holds the byte 0x%1 at %2, which is not printable ASCII</source>
+        <translation>die Antwort enthält an Stelle %2 das Byte 0x%1, das kein druckbares ASCII ist</translation>
+    </message>
+    <message>
+        <source>a count of %1 is beyond the plausible 0 to %2</source>
+        <translation>eine Anzahl von %1 liegt außerhalb des plausiblen Bereichs 0 bis %2</translation>
     </message>
 </context>
 <context>
@@ -927,6 +1098,10 @@ Diese Kalibrierung kann zurzeit nicht unterbrochen werden!</translation>
         <source>reply longer than %1 bytes</source>
         <translation>Antwort länger als %1 Bytes</translation>
     </message>
+    <message>
+        <source>no answer to &quot;%1&quot;</source>
+        <translation>keine Antwort auf „%1“</translation>
+    </message>
 </context>
 <context>
     <name>InertialCalibrationDialog</name>
@@ -1377,10 +1552,6 @@ Diese Kalibrierung kann zurzeit nicht unterbrochen werden!</translation>
     <message>
         <source>This controller does not support hybrid sensors - please update your controller</source>
         <translation>Dieser Controller unterstützt keine Hybridsensoren – bitte aktualisieren Sie Ihren Controller</translation>
-    </message>
-    <message>
-        <source>The configuration is locked: the inertial settings cannot be changed</source>
-        <translation>Die Konfiguration ist gesperrt: die Inertialeinstellungen können nicht geändert werden</translation>
     </message>
     <message>
         <source>Hybrid tracking is not available!</source>
@@ -2033,10 +2204,6 @@ Diese Kalibrierung kann zurzeit nicht unterbrochen werden!</translation>
         <translation>Controller unter %1</translation>
     </message>
     <message>
-        <source>no connection to the controller at %1 (%2)</source>
-        <translation>keine Verbindung zum Controller unter %1 (%2)</translation>
-    </message>
-    <message>
         <source>no answer within the time-out</source>
         <translation>keine Antwort innerhalb der Wartezeit</translation>
     </message>
@@ -2076,6 +2243,18 @@ Diese Kalibrierung kann zurzeit nicht unterbrochen werden!</translation>
         <source>cannot read from the controller: %1</source>
         <translation>vom Controller kann nicht gelesen werden: %1</translation>
     </message>
+    <message>
+        <source>no answer within %1 ms</source>
+        <translation>keine Antwort innerhalb von %1 ms</translation>
+    </message>
+    <message>
+        <source>no reply of the controller&apos;s language</source>
+        <translation>keine Antwort in der Sprache des Controllers</translation>
+    </message>
+    <message>
+        <source>reply longer than %1 bytes</source>
+        <translation>Antwort länger als %1 Bytes</translation>
+    </message>
 </context>
 <context>
     <name>TourRunner</name>
@@ -2114,6 +2293,53 @@ Diese Kalibrierung kann zurzeit nicht unterbrochen werden!</translation>
     <message>
         <source>%1: %2 opened no window.</source>
         <translation>%1: %2 hat kein Fenster geöffnet.</translation>
+    </message>
+</context>
+<context>
+    <name>TrackingPulsePage</name>
+    <message>
+        <source>Error: Unable to info of tracking frequency type</source>
+        <translation>Fehler: Die Art der Tracking-Frequenz kann nicht gelesen werden</translation>
+    </message>
+    <message>
+        <source>Error: Unable to get inertial frequency</source>
+        <translation>Fehler: Die Inertialfrequenz kann nicht gelesen werden</translation>
+    </message>
+    <message>
+        <source>Error: Unable to get number of inertial sensors</source>
+        <translation>Fehler: Die Anzahl der Inertialsensoren kann nicht gelesen werden</translation>
+    </message>
+    <message>
+        <source>Error: Unable to get serial number of inertial sensor</source>
+        <translation>Fehler: Die Seriennummer des Inertialsensors kann nicht gelesen werden</translation>
+    </message>
+    <message>
+        <source>Error: Unable to get vendor model of inertial sensor</source>
+        <translation>Fehler: Hersteller und Modell des Inertialsensors können nicht gelesen werden</translation>
+    </message>
+    <message>
+        <source>Error: Unable to get body of sensor sensor</source>
+        <translation>Fehler: Der Körper des Sensors kann nicht gelesen werden</translation>
+    </message>
+    <message>
+        <source>Error: Unable to info of frequency type</source>
+        <translation>Fehler: Die Art der Frequenz kann nicht gelesen werden</translation>
+    </message>
+    <message>
+        <source>Error: Unable to set inertial tracking settings</source>
+        <translation>Fehler: Die Einstellungen des Inertialtrackings können nicht gesetzt werden</translation>
+    </message>
+    <message>
+        <source>Error: Unable to set inertial tracking synchronous to cameras</source>
+        <translation>Fehler: Das Inertialtracking kann nicht synchron zu den Kameras gesetzt werden</translation>
+    </message>
+    <message>
+        <source>Error: Unable to set inertial tracking to sensor</source>
+        <translation>Fehler: Das Inertialtracking kann nicht auf den Sensor gesetzt werden</translation>
+    </message>
+    <message>
+        <source>Error: Unable to set inertial tracking frequency</source>
+        <translation>Fehler: Die Frequenz des Inertialtrackings kann nicht gesetzt werden</translation>
     </message>
 </context>
 <context>
