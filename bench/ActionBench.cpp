@@ -9,6 +9,7 @@
 #include <QFile>
 #include <QPointer>
 #include <QPushButton>
+#include <QTabWidget>
 #include <QTableWidget>
 #include <QTemporaryDir>
 #include <QTimer>
@@ -20,6 +21,7 @@
 #include "PingPong.h"
 #include "SimDaemon.h"
 #include "host/InProcessLink.h"
+#include "host/LogView.h"
 #include "host/MainWindow.h"
 #include "host/ModalDialogHelper.h"
 #include "host/TcpLink.h"
@@ -307,6 +309,26 @@ void ActionBench::tick_timers(const QString& prefix, QObject* owner)
 
 bool ActionBench::time_exchanges(QString* error)
 {
+    if (!time_exchange_batches(QString(), error))
+        return false;
+    // The traffic tab in front: the log is drawn as the exchanges come.
+    QWidget* log = window->traffic_log();
+    for (QWidget* page = log; page; page = page->parentWidget()) {
+        auto* tabs = page->parentWidget() ? qobject_cast<QTabWidget*>(page->parentWidget()->parentWidget()) : nullptr;
+        if (tabs && tabs->indexOf(page) >= 0) {
+            tabs->setCurrentWidget(page);
+            break;
+        }
+    }
+    if (!log->isVisible()) {
+        *error = QStringLiteral("cannot bring the traffic log to the front");
+        return false;
+    }
+    return time_exchange_batches(QStringLiteral(", traffic shown"), error);
+}
+
+bool ActionBench::time_exchange_batches(const QString& suffix, QString* error)
+{
     std::unique_ptr<PingPong> raw;
     if (setup.tcp) {
         raw = std::make_unique<PingPong>();
@@ -332,7 +354,7 @@ bool ActionBench::time_exchanges(QString* error)
         }
         drain();
         const Sample through_link = per_exchange(watch.elapsed());
-        report->add_exchange(link_name(), setup.sensors, BenchReport::LinkExchange, through_link);
+        report->add_exchange(link_name(), setup.sensors, BenchReport::LinkExchange + suffix, through_link);
 
         Stopwatch floor;
         floor.start();
@@ -346,14 +368,14 @@ bool ActionBench::time_exchanges(QString* error)
         }
         const Sample bare = per_exchange(floor.elapsed());
         report->add_exchange(link_name(), setup.sensors,
-                             raw ? BenchReport::RawPingPong : QStringLiteral("simulator alone"), bare);
+                             (raw ? BenchReport::RawPingPong : QStringLiteral("simulator alone")) + suffix, bare);
         if (!raw) {
             Sample host_work;
             host_work.round_trips = 1;
             host_work.wall_ns = through_link.wall_ns - bare.wall_ns;
             host_work.cpu_ns = through_link.cpu_ns - bare.cpu_ns;
-            report->add_exchange(link_name(), setup.sensors, QStringLiteral("host work (link - simulator)"),
-                                 host_work);
+            report->add_exchange(link_name(), setup.sensors,
+                                 QStringLiteral("host work (link - simulator)") + suffix, host_work);
         }
     }
     return true;

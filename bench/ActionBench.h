@@ -53,7 +53,9 @@ private:
     void in_add_sensor(QWidget* dialog);
     void open_calibration(const QString& action_text, const QString& name);
     void tick_timers(const QString& prefix, QObject* owner);
+    // With the traffic log out of sight, as the window starts, and in front.
     bool time_exchanges(QString* error);
+    bool time_exchange_batches(const QString& suffix, QString* error);
 
     void begin();
     void record(const QString& action);
