@@ -256,10 +256,12 @@ void ControllerLink::abandon_pending()
 QString ControllerLink::trace_line(const QByteArray& request, const QByteArray& reply, bool replied,
                                    qint64 duration_ns, const QString& error)
 {
-    // "HH:mm:ss.zzz  0.123 ms": C formatting, so the decimal point is the
-    // C locale's whatever the user's locale.
-    char head[48];
-    std::snprintf(head, sizeof head, "%s %8.3f ms  ", time_of_day().constData(), double(duration_ns) / 1e6);
+    // "HH:mm:ss.zzz    0.123 ms", in whole numbers: printf's %f would take
+    // the user's decimal comma.
+    const qint64 us = (qMax<qint64>(0, duration_ns) + 500) / 1000;
+    char head[64];
+    std::snprintf(head, sizeof head, "%s %4lld.%03lld ms  ", time_of_day().constData(),
+                  static_cast<long long>(us / 1000), static_cast<long long>(us % 1000));
     QString line = QLatin1String(head) + QLatin1String(request) + QLatin1String("  ->  ")
                    + (replied ? QString::fromLatin1(reply) : tr("(no reply)"));
     if (!error.isEmpty())
