@@ -1,5 +1,6 @@
 #include "ControllerLink.h"
 
+#include <QDateTime>
 #include <QTime>
 #include <QFile>
 #include <QRegularExpression>
@@ -93,10 +94,55 @@ int parse_words(const QByteArray& value, int count, T* out, Parse parse, QString
     return ControllerLink::Success;
 }
 
+// Counts the controller can really have, with room to spare (100 sensors
+// and more, every real system); a count beyond one is junk, and believing it
+// would cost one exchange per item that does not exist.
+struct CountLimit
+{
+    const char* path;   // ending in a blank: the path and its arguments
+    int limit;
+    bool unknown_allowed;
+};
+const CountLimit CountLimits[] = {
+    {"inertial number_of_sensors", 256, false},
+    {"inertial number_of_scanned_sensors", 256, true},
+    {"inertial number_of_transceivers", 16, false},
+    {"inertial number_of_transceiver_available_radio_channels ", 128, false},
+    {"inertial number_of_scan_channels", 64, false},
+    {"inertial number_of_wakeup_modes", 64, false},
+    {"body number_of_bodies ", 256, false},
+    {"standard number_of_bodies", 256, false},
+    {"standard max_number_of_bodies", 256, false},
+    {"wand number_of_devices", 256, false},
+    {"filter6d number_of_modes", 64, false},
+    {"filter6d number_of_presets", 64, false},
+    {"cal number_of_steps ", 64, false},
+};
+// Any other count.
+constexpr int OtherCountLimit = 1024;
+
 } // namespace
+
+const QByteArray ControllerLink::ProbeLine = "norvane get system version";
+
+int ControllerLink::count_limit(const QByteArray& path, bool* unknown_allowed)
+{
+    *unknown_allowed = false;
+    for (const CountLimit& known : CountLimits) {
+        const QByteArray name(known.path);
+        if (name.endsWith(' ') ? path.startsWith(name) : path == name) {
+            *unknown_allowed = known.unknown_allowed;
+            return known.limit;
+        }
+    }
+    const QByteArray parameter = path.split(' ').value(1);
+    return parameter.startsWith("number_of_") || parameter.startsWith("max_number_of_") ? OtherCountLimit : 0;
+}
 
 ControllerLink::ControllerLink(QObject* parent) : QObject(parent)
 {
+    retry_timer.setSingleShot(true);
+    connect(&retry_timer, &QTimer::timeout, this, &ControllerLink::retry);
     // A time-out asked for by a handler is over once that handler returned
     // to the event loop.
     override_reset.setSingleShot(true);
@@ -145,6 +191,55 @@ void ControllerLink::set_connected(bool now_connected)
         return;
     connected = now_connected;
     emit connection_changed(connected);
+    if (connected)
+        return;
+    if (current.active)
+        transport_lost = true;   // judged when the exchange ends
+    else
+        enter_outage(tr("the controller closed the connection"));
+}
+
+void ControllerLink::enter_outage(const QString& why)
+{
+    if (outage)
+        return;
+    outage = true;
+    outage_since = QDateTime::currentDateTime().toString(QStringLiteral("HH:mm:ss"));
+    retry_ms = FirstRetryMs;
+    retry_timer.start(retry_ms);
+    emit notice(tr("The %1 is not answering since %2 (%3).").arg(description(), outage_since, why));
+    emit answering_changed(false, tr("not answering since %1").arg(outage_since));
+}
+
+void ControllerLink::retry()
+{
+    if (outage)
+        probe();
+}
+
+void ControllerLink::probe_finished(bool answering, const QString& why)
+{
+    if (!outage)
+        return;
+    if (!answering) {
+        qCDebug(lcHostLink).noquote() << "still no answer:" << why;
+        retry_ms = qMin(retry_ms * 2, int(LongestRetryMs));
+        retry_timer.start(retry_ms);
+        return;
+    }
+    outage = false;
+    told_too_long = false;
+    told_malformed = false;
+    emit notice(tr("The %1 is answering again.").arg(description()));
+    emit answering_changed(true, tr("connected"));
+}
+
+void ControllerLink::tell_once(bool* told, const QString& text)
+{
+    if (*told)
+        return;
+    *told = true;
+    emit notice(text);
 }
 
 bool ControllerLink::is_blocked()
@@ -171,7 +266,10 @@ void ControllerLink::start(const QByteArray& request)
     current.request = request;
     current.clock.start();
     current.deadline = QDeadlineTimer(current_timeout());
+    // A longer time-out was asked for this request, not the ones after it.
+    timeout_override_ms = -1;
     current_error.clear();
+    transport_lost = false;
 }
 
 int ControllerLink::reject(const QByteArray& request, const QString& error)
@@ -190,9 +288,13 @@ int ControllerLink::begin(const QByteArray& request)
     if (request.contains('\n') || request.contains('\r'))
         return fail(InvalidRequest, tr("request holds a line break"));
 
+    if (outage)
+        return fail(TransportFailure, tr("the controller is not answering since %1").arg(outage_since));
     QString error;
-    if (!write_request(request, current.deadline, &error))
+    if (!write_request(request, current.deadline, &error)) {
+        transport_lost = true;
         return fail(TransportFailure, error);
+    }
     ++trips;
     emit round_trips_changed(trips);
     return Success;
@@ -204,9 +306,17 @@ int ControllerLink::receive()
     const Result result = read_reply(&current.reply, current.deadline, &error);
     if (result != Success) {
         current.reply.clear();
+        if (result == TimedOut || result == TransportFailure)
+            transport_lost = true;
         return fail(result, error);
     }
     current.replied = true;
+    // Control characters, escape sequences, NULs and high bytes are no part
+    // of the language, and would otherwise reach table cells or cut a value
+    // short.
+    const QString unprintable = printable_problem(current.reply);
+    if (!unprintable.isEmpty())
+        return fail(MalformedReply, unprintable);
     if (current.reply.startsWith(ErrorPrefix))
         return fail(ControllerError, error_reply_text(current.reply));
     return Success;
@@ -236,7 +346,28 @@ int ControllerLink::conclude(int result)
     current.awaiting_completion = false;
     current.async_buffer = nullptr;
     emit traced(line, result != Success);
+    if (transport_lost) {
+        transport_lost = false;
+        enter_outage(current_error);
+    } else if (result == ReplyTooLong) {
+        tell_once(&told_too_long, tr("The controller sent a reply that does not fit: %1.").arg(current_error));
+    } else if (result == MalformedReply) {
+        tell_once(&told_malformed,
+                  tr("The controller sent something that is not its language: %1.").arg(current_error));
+    }
     return result;
+}
+
+QString ControllerLink::printable_problem(const QByteArray& reply)
+{
+    for (int i = 0; i < reply.size(); ++i) {
+        const auto byte = static_cast<unsigned char>(reply.at(i));
+        if (byte < 0x20 || byte > 0x7e)
+            return tr("reply holds the byte 0x%1 at %2, which is not printable ASCII")
+                .arg(uint(byte), 2, 16, QLatin1Char('0'))
+                .arg(i);
+    }
+    return QString();
 }
 
 void ControllerLink::abandon_pending()
@@ -389,8 +520,20 @@ int ControllerLink::get_string(char* reply, const char* format, ...)
 int ControllerLink::get_int(int* value, const char* format, ...)
 {
     NORVANE_FORMAT_LINE(path, format);
-    return query(path, [value](const QByteArray& text, QString* error) {
-        return parse_words(text, 1, value, to_int, error);
+    bool unknown_allowed = false;
+    const int limit = count_limit(path, &unknown_allowed);
+    return query(path, [value, limit, unknown_allowed](const QByteArray& text, QString* error) {
+        int parsed = 0;
+        const int result = parse_words(text, 1, &parsed, to_int, error);
+        if (result != Success)
+            return result;
+        if (limit > 0 && (parsed > limit || (parsed < 0 && !(unknown_allowed && parsed == -1)))) {
+            *error = tr("a count of %1 is beyond the plausible 0 to %2").arg(parsed).arg(limit);
+            return int(MalformedReply);
+        }
+        if (value)
+            *value = parsed;
+        return int(Success);
     });
 }
 

@@ -27,11 +27,17 @@ class QFile;
 // Everything a link does is here, once; a subclass only moves lines (TCP,
 // or the simulator in-process) through write_request()/read_reply().
 //
-// Time-outs: set_timeout() holds for the requests sent before control gets
-// back to the event loop, i.e. for the commands of the handler that asked
-// for it; afterwards the default applies again. set_timeout(true, ...) makes
-// the next send_command() asynchronous: it returns Pending once the command
-// is out, and wait_for_completion() collects the reply.
+// Time-outs: set_timeout() holds for the next request only, the long
+// command it was asked for; the queries after it get the default again.
+// set_timeout(true, ...) makes the next send_command() asynchronous: it
+// returns Pending once the command is out, and wait_for_completion() collects
+// the reply.
+//
+// Outages: after a time-out or a lost connection every call fails at once
+// until the controller answers again. Whether it does is tried from the event
+// loop (probe()), first after FirstRetryMs and then ever more rarely, never
+// inside a call that blocks the window; a silent controller thus costs one
+// time-out, not one per question.
 class ControllerLink : public QObject, public IOManager
 {
     Q_OBJECT
@@ -56,6 +62,13 @@ public:
     static constexpr int MaxLineLength = 64 * 1024;
     // Most values get_doubles()/get_ints() read in one go.
     static constexpr int MaxValueCount = 1024;
+    static constexpr int FirstRetryMs = 500;
+    static constexpr int LongestRetryMs = 8000;
+
+    // The largest count a count query ("inertial number_of_sensors", ...)
+    // may answer; 0 for a path that is no count query. *unknown_allowed
+    // says whether -1 ("not yet") is a value of that path.
+    static int count_limit(const QByteArray& path, bool* unknown_allowed);
 
     explicit ControllerLink(QObject* parent = nullptr);
     ~ControllerLink() override;
@@ -74,6 +87,9 @@ public:
 
     // What the link talks to, for the window ("127.0.0.1:4000", ...).
     virtual QString description() const = 0;
+    // False from a time-out or lost connection until the controller answers
+    // again.
+    bool is_answering() const { return !outage; }
 
     // --- IOManager ---------------------------------------------------------
     bool is_blocked() override;
@@ -104,6 +120,11 @@ signals:
     void traced(const QString& line, bool failed);
     void connection_changed(bool connected);
     void round_trips_changed(long trips);
+    // What the user should know about the controller, said once per event:
+    // it stopped answering, it is back, it sent what does not fit or what is
+    // not its language.
+    void notice(const QString& text);
+    void answering_changed(bool answering, const QString& state);
 
 protected:
     // Sends one request line (no line feed) before the deadline. On failure
@@ -114,9 +135,16 @@ protected:
     virtual Result read_reply(QByteArray* reply, QDeadlineTimer deadline, QString* error) = 0;
 
     // Subclasses report their connection state here; listeners hear of
-    // changes only.
+    // changes only. A connection lost is an outage.
     void set_connected(bool connected);
     bool connected_state() const { return connected; }
+
+    // A request every controller answers, for probe().
+    static const QByteArray ProbeLine;
+    // Tries to reach the controller after an outage, without blocking; ends
+    // with probe_finished(), now or later from the event loop.
+    virtual void probe() = 0;
+    void probe_finished(bool answering, const QString& why);
 
 private:
     // Turns the value of a query reply into the caller's type; returns a
@@ -151,6 +179,11 @@ private:
     void abandon_pending();
     static int copy_to(const QByteArray& text, char* buffer, QString* error);
     void reset_timeout_override();
+    void enter_outage(const QString& why);
+    void retry();
+    // Tells the user about a faulty reply, once per kind and outage.
+    void tell_once(bool* told, const QString& text);
+    static QString printable_problem(const QByteArray& reply);
 
     MessageHub* hub = nullptr;
     std::unique_ptr<QFile> trace_file;
@@ -163,6 +196,13 @@ private:
     QTimer override_reset;
     long trips = 0;
     bool connected = false;
+    bool transport_lost = false;   // during the exchange under way
+    bool outage = false;
+    QString outage_since;
+    QTimer retry_timer;
+    int retry_ms = FirstRetryMs;
+    bool told_too_long = false;
+    bool told_malformed = false;
 };
 
 #endif // CONTROLLERLINK_H

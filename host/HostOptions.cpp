@@ -1,7 +1,7 @@
 #include "HostOptions.h"
 
 #include <QCommandLineParser>
-#include <QObject>
+#include <QCoreApplication>
 
 #include "TcpLink.h"
 
@@ -9,30 +9,31 @@ bool HostOptions::parse(const QStringList& arguments)
 {
     QCommandLineParser parser;
     parser.setApplicationDescription(
-        QObject::tr("Desktop front end of the Norvane tracking controller. Without --controller it "
+        tr("Desktop front end of the Norvane tracking controller. Without --controller it "
                     "runs a simulated controller in its own process."));
     const QCommandLineOption help_option = parser.addHelpOption();
     const QCommandLineOption version_option = parser.addVersionOption();
     const QCommandLineOption controller_option(
-        QStringLiteral("controller"), QObject::tr("Use the controller at <host:port> over TCP."),
-        QObject::tr("host:port"));
+        QStringLiteral("controller"), tr("Use the controller at <host:port> over TCP."),
+        tr("host:port"));
     const QCommandLineOption scenario_option(
-        QStringLiteral("scenario"), QObject::tr("Start the embedded simulator on the scenario <file> (JSON)."),
-        QObject::tr("file"));
+        QStringLiteral("scenario"), tr("Start the embedded simulator on the scenario <file> (JSON)."),
+        tr("file"));
     const QCommandLineOption speed_option(
-        QStringLiteral("speed"), QObject::tr("Run the embedded simulator's clock <factor> times as fast."),
-        QObject::tr("factor"), QStringLiteral("1"));
+        QStringLiteral("speed"), tr("Run the embedded simulator's clock <factor> times as fast."),
+        tr("factor"), QStringLiteral("1"));
     const QCommandLineOption plugin_option(
-        QStringLiteral("plugin-dir"), QObject::tr("Load modules from <folder> (default: next to the program)."),
-        QObject::tr("folder"));
+        QStringLiteral("plugin-dir"),
+        tr("Load modules from <folder> (default: next to the program and its installed plug-in folder)."),
+        tr("folder"));
     const QCommandLineOption trace_option(
-        QStringLiteral("trace"), QObject::tr("Append every exchange with the controller to <file>."),
-        QObject::tr("file"));
+        QStringLiteral("trace"), tr("Append every exchange with the controller to <file>."),
+        tr("file"));
     const QCommandLineOption tour_option(
         QStringLiteral("tour"),
-        QObject::tr("Open every module menu entry in turn, save a picture of each dialog and of the "
+        tr("Open every module menu entry in turn, save a picture of each dialog and of the "
                     "window into <folder>, and quit. Runs offscreen when there is no display."),
-        QObject::tr("folder"));
+        tr("folder"));
     parser.addOptions({controller_option, scenario_option, speed_option, plugin_option, trace_option,
                        tour_option});
     help = parser.helpText();
@@ -44,19 +45,19 @@ bool HostOptions::parse(const QStringList& arguments)
     wants_help = parser.isSet(help_option);
     wants_version = parser.isSet(version_option);
     if (!parser.positionalArguments().isEmpty()) {
-        problem = QObject::tr("Unexpected argument: %1").arg(parser.positionalArguments().first());
+        problem = tr("Unexpected argument: %1").arg(parser.positionalArguments().first());
         return false;
     }
 
     if (parser.isSet(controller_option)) {
         const QString address = parser.value(controller_option);
         if (!TcpLink::parse_address(address, &controller_host, &controller_port)) {
-            problem = QObject::tr("--controller wants host:port (for example 127.0.0.1:4000), not \"%1\"")
+            problem = tr("--controller wants host:port (for example 127.0.0.1:4000), not \"%1\"")
                           .arg(address);
             return false;
         }
         if (parser.isSet(scenario_option) || parser.isSet(speed_option)) {
-            problem = QObject::tr("--scenario and --speed are for the embedded simulator; a controller "
+            problem = tr("--scenario and --speed are for the embedded simulator; a controller "
                                   "reached with --controller has its own");
             return false;
         }
@@ -64,7 +65,7 @@ bool HostOptions::parse(const QStringList& arguments)
     bool ok = false;
     speed = parser.value(speed_option).toDouble(&ok);
     if (!ok || !(speed > 0.0) || speed > MaximumSpeed) {
-        problem = QObject::tr("--speed wants a factor above 0 and up to %1, not \"%2\"")
+        problem = tr("--speed wants a factor above 0 and up to %1, not \"%2\"")
                       .arg(MaximumSpeed)
                       .arg(parser.value(speed_option));
         return false;
@@ -75,7 +76,7 @@ bool HostOptions::parse(const QStringList& arguments)
     tour_dir = parser.value(tour_option);
     for (const QCommandLineOption* option : {&scenario_option, &plugin_option, &trace_option, &tour_option}) {
         if (parser.isSet(*option) && parser.value(*option).isEmpty()) {
-            problem = QObject::tr("--%1 wants a value").arg(option->names().first());
+            problem = tr("--%1 wants a value").arg(option->names().first());
             return false;
         }
     }

@@ -1,12 +1,15 @@
 #ifndef HOSTOPTIONS_H
 #define HOSTOPTIONS_H
 
+#include <QCoreApplication>
 #include <QString>
 #include <QStringList>
 
 // norvane-host's command line.
 class HostOptions
 {
+    Q_DECLARE_TR_FUNCTIONS(HostOptions)
+
 public:
     static constexpr double MaximumSpeed = 10000.0;
 

@@ -80,3 +80,15 @@ ControllerLink::Result InProcessLink::read_reply(QByteArray* reply, QDeadlineTim
     }
     return Success;
 }
+
+void InProcessLink::probe()
+{
+    // Asked and answered at once: a reply that would come too late, or not
+    // at all, is simply no answer yet.
+    const SimReply reply = controller->handle(ProbeLine);
+    const bool answered = !reply.silent && !reply.hang_up && reply.delay_ms <= default_timeout()
+                          && reply.line.startsWith("norvane ");
+    if (answered)
+        set_connected(true);
+    probe_finished(answered, answered ? QString() : tr("no answer to \"%1\"").arg(QString::fromLatin1(ProbeLine)));
+}

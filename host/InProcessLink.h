@@ -38,6 +38,7 @@ public:
 protected:
     bool write_request(const QByteArray& line, QDeadlineTimer deadline, QString* error) override;
     Result read_reply(QByteArray* reply, QDeadlineTimer deadline, QString* error) override;
+    void probe() override;
 
 private:
     void wait(qint64 ms) const;

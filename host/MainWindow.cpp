@@ -10,6 +10,8 @@
 #include <QMessageBox>
 #include <QStatusBar>
 
+#include <clocale>
+
 #include "ControllerLink.h"
 #include "LogView.h"
 #include "MenuPlacer.h"
@@ -40,6 +42,10 @@ MainWindow::MainWindow(ControllerLink* controller, QWidget* parent)
       connection_label(new QLabel(this))
 {
     init_host_resources();
+    // QApplication adopted the user's locale; modules read numbers out of
+    // replies with sscanf, and the controller writes "0.5" whatever the
+    // user's language.
+    std::setlocale(LC_NUMERIC, "C");
     ui->setupUi(this);
     placer = std::make_unique<MenuPlacer>(ui->menubar);
     placer->adopt(ui->menu_file, FileMenuPosition);
@@ -69,6 +75,12 @@ MainWindow::MainWindow(ControllerLink* controller, QWidget* parent)
         QMetaObject::invokeMethod(this, &MainWindow::show_round_trips, Qt::QueuedConnection);
     });
     connect(link, &ControllerLink::connection_changed, this, &MainWindow::update_connection_state);
+    connect(link, &ControllerLink::notice, this, [this](const QString& text) {
+        log_note(text, true);
+        statusBar()->showMessage(text, StatusMessageMs);
+    });
+    connect(link, &ControllerLink::answering_changed, this,
+            [this](bool, const QString& state) { show_connection_state(state); });
     // Queued: the change is reported from inside an exchange, and reading
     // the versions is exchanges of its own.
     connect(link, &ControllerLink::connection_changed, this, &MainWindow::reread_versions_after_reconnect,
@@ -301,8 +313,15 @@ void MainWindow::log_note(const QString& text, bool problem)
 
 void MainWindow::update_connection_state(bool connected)
 {
-    ui->label_state->setText(connected ? tr("connected") : tr("not connected"));
-    connection_label->setText(QStringLiteral("%1 \u2014 %2").arg(link->description(), ui->label_state->text()));
+    // An outage's own words outlast the connection's ups and downs.
+    if (link->is_answering())
+        show_connection_state(connected ? tr("connected") : tr("not connected"));
+}
+
+void MainWindow::show_connection_state(const QString& state)
+{
+    ui->label_state->setText(state);
+    connection_label->setText(QStringLiteral("%1 \u2014 %2").arg(link->description(), state));
 }
 
 void MainWindow::show_round_trips()

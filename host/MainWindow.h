@@ -89,6 +89,7 @@ private:
     void update_controller_view();
     void show_round_trips();
     void update_connection_state(bool connected);
+    void show_connection_state(const QString& state);
     void reread_versions_after_reconnect(bool connected);
 
     std::unique_ptr<Ui::MainWindow> ui;

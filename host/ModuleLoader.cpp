@@ -1,10 +1,14 @@
 #include "ModuleLoader.h"
 
+#include <QCoreApplication>
 #include <QDir>
 #include <QFileInfo>
 #include <QJsonObject>
 #include <QLibrary>
 #include <QPluginLoader>
+
+#include <algorithm>
+#include <iterator>
 
 #include "HostLog.h"
 #include "module/ModuleInterface.h"
@@ -16,6 +20,25 @@ ModuleLoader::ModuleLoader(QObject* parent) : QObject(parent)
 ModuleLoader::~ModuleLoader()
 {
     unload_all();
+}
+
+QStringList ModuleLoader::default_folders()
+{
+    const QString own = QCoreApplication::applicationDirPath();
+    const QStringList candidates{own, QDir::cleanPath(own + QStringLiteral("/" NORVANE_PLUGIN_RELATIVE_DIR))};
+    // Only folders holding a module of ours by its metadata (read without
+    // loading): an installed host sits in bin/, beside unrelated libraries.
+    const auto holds_module = [](const QString& folder) {
+        const QFileInfoList files = QDir(folder).entryInfoList(QDir::Files | QDir::Readable);
+        return std::any_of(files.begin(), files.end(), [](const QFileInfo& file) {
+            return QLibrary::isLibrary(file.fileName())
+                   && QPluginLoader(file.absoluteFilePath()).metaData().value(QStringLiteral("IID")).toString()
+                          == QLatin1String(ModuleInterface_iid);
+        });
+    };
+    QStringList found;
+    std::copy_if(candidates.begin(), candidates.end(), std::back_inserter(found), holds_module);
+    return found.isEmpty() ? candidates.mid(0, 1) : found;
 }
 
 void ModuleLoader::report(const QString& problem)

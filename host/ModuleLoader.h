@@ -27,6 +27,11 @@ public:
     explicit ModuleLoader(QObject* parent = nullptr);
     ~ModuleLoader() override;
 
+    // The folders a host without --plugin-dir loads from: next to the
+    // executable and the installed plug-in folder, those of them that hold a
+    // module; only the first when none does, so that its absence is told.
+    static QStringList default_folders();
+
     // Loads every library in the folder, in file name order; returns how
     // many turned out to be modules.
     int load_folder(const QString& folder);

@@ -15,6 +15,16 @@ TcpLink::TcpLink(const QString& host_name, quint16 port_number, QObject* parent)
     : ControllerLink(parent), host(host_name), port(port_number)
 {
     connect(&socket, &QTcpSocket::disconnected, this, &TcpLink::on_disconnected);
+    connect(&socket, &QTcpSocket::connected, this, &TcpLink::on_probe_connected);
+    connect(&socket, &QTcpSocket::readyRead, this, &TcpLink::on_probe_ready_read);
+    connect(&socket, &QAbstractSocket::errorOccurred, this, [this] {
+        if (probing)
+            end_probe(false, socket.errorString());
+    });
+    probe_timeout.setSingleShot(true);
+    connect(&probe_timeout, &QTimer::timeout, this, [this] {
+        end_probe(false, tr("no answer within %1 ms").arg(default_timeout()));
+    });
 }
 
 TcpLink::~TcpLink()
@@ -59,38 +69,76 @@ bool TcpLink::parse_address(const QString& text, QString* host_out, quint16* por
 
 bool TcpLink::connect_now(QString* error)
 {
-    last_failed_attempt.invalidate();
     return ensure_connected(QDeadlineTimer(current_timeout()), error);
 }
 
 bool TcpLink::ensure_connected(QDeadlineTimer deadline, QString* error)
 {
-    if (socket.state() == QAbstractSocket::ConnectedState)
+    if (socket.state() == QAbstractSocket::ConnectedState && !probing)
         return true;
-    if (retry_interval_ms > 0 && last_failed_attempt.isValid()
-        && !last_failed_attempt.hasExpired(retry_interval_ms)) {
-        *error = tr("no connection to the controller at %1 (%2)").arg(address(), last_connect_error);
-        return false;
-    }
+    probing = false;
+    probe_timeout.stop();
     socket.abort();
     input.clear();
     socket.connectToHost(host, port);
     if (!socket.waitForConnected(remaining(deadline))) {
-        last_connect_error = socket.error() == QAbstractSocket::SocketTimeoutError
-                                 ? tr("no answer within the time-out")
-                                 : socket.errorString();
+        const QString reason = socket.error() == QAbstractSocket::SocketTimeoutError ? tr("no answer within the time-out")
+                                                                                     : socket.errorString();
         socket.abort();
-        last_failed_attempt.start();
-        set_connected(false);
-        *error = tr("cannot connect to the controller at %1: %2").arg(address(), last_connect_error);
+        *error = tr("cannot connect to the controller at %1: %2").arg(address(), reason);
         return false;
     }
     // Requests are single short lines answered at once: Nagle's algorithm
     // would only add its delay to every round trip.
     socket.setSocketOption(QAbstractSocket::LowDelayOption, 1);
-    last_failed_attempt.invalidate();
     set_connected(true);
     return true;
+}
+
+void TcpLink::probe()
+{
+    socket.abort();
+    input.clear();
+    probing = true;
+    probe_timeout.start(default_timeout());
+    socket.connectToHost(host, port);
+}
+
+void TcpLink::on_probe_connected()
+{
+    if (!probing)
+        return;
+    socket.setSocketOption(QAbstractSocket::LowDelayOption, 1);
+    socket.write(ProbeLine + '\n');
+}
+
+void TcpLink::on_probe_ready_read()
+{
+    // During an exchange read_reply() reads for itself.
+    if (!probing)
+        return;
+    input += socket.readAll();
+    const int end = input.indexOf('\n');
+    if (end < 0 && input.size() <= MaxLineLength)
+        return;
+    const bool answered = end >= 0 && input.startsWith("norvane ");
+    end_probe(answered, answered ? QString() : tr("no reply of the controller's language"));
+}
+
+void TcpLink::end_probe(bool answering, const QString& why)
+{
+    if (!probing)
+        return;
+    probing = false;
+    probe_timeout.stop();
+    input.clear();
+    if (!answering) {
+        socket.abort();
+        probe_finished(false, why);
+        return;
+    }
+    set_connected(true);
+    probe_finished(true, QString());
 }
 
 void TcpLink::drop()
@@ -102,6 +150,10 @@ void TcpLink::drop()
 
 void TcpLink::on_disconnected()
 {
+    if (probing) {
+        end_probe(false, tr("the controller closed the connection"));
+        return;
+    }
     // Also emitted from inside the wait functions: what was read so far
     // stays for read_reply() to judge.
     set_connected(false);
@@ -140,6 +192,12 @@ ControllerLink::Result TcpLink::read_reply(QByteArray* reply, QDeadlineTimer dea
         if (socket.bytesAvailable() > 0)
             input += socket.read(socket.bytesAvailable());
         const int end = input.indexOf('\n');
+        if (end > MaxLineLength) {
+            // Read whole, so the next reply is in step; too long all the same.
+            input.remove(0, end + 1);
+            *error = tr("reply longer than %1 bytes").arg(int(MaxLineLength));
+            return ReplyTooLong;
+        }
         if (end >= 0) {
             *reply = input.left(end);
             if (reply->endsWith('\r'))

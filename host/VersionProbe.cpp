@@ -1,6 +1,6 @@
 #include "VersionProbe.h"
 
-#include <QObject>
+#include <QCoreApplication>
 #include <QRegularExpression>
 
 #include "module/BackendVersions.h"
@@ -11,7 +11,7 @@ namespace {
 QString why(IOManager* io)
 {
     const QString error = QString::fromLocal8Bit(io->last_error());
-    return error.isEmpty() ? QObject::tr("no reason given") : error;
+    return error.isEmpty() ? VersionProbe::tr("no reason given") : error;
 }
 
 } // namespace
@@ -50,7 +50,7 @@ bool VersionProbe::read(IOManager* io, BackendVersions* versions, QStringList* p
     auto ask = [&](const char* path, const QString& what) {
         if (io->get_string(reply, "%s", path) == 0)
             return true;
-        found << QObject::tr("Could not read the controller's %1: %2").arg(what, why(io));
+        found << tr("Could not read the controller's %1: %2").arg(what, why(io));
         return false;
     };
     auto ask_version = [&](const char* path, const QString& what, int* major, int* minor, int* patch) {
@@ -58,7 +58,7 @@ bool VersionProbe::read(IOManager* io, BackendVersions* versions, QStringList* p
             return;
         int a = 0, b = 0, c = 0;
         if (!parse(reply, &a, &b, &c)) {
-            found << QObject::tr("The controller's %1 \"%2\" is not of the form 1.21.0")
+            found << tr("The controller's %1 \"%2\" is not of the form 1.21.0")
                          .arg(what, QString::fromLatin1(reply));
             return;
         }
@@ -67,11 +67,11 @@ bool VersionProbe::read(IOManager* io, BackendVersions* versions, QStringList* p
         *patch = c;
     };
 
-    ask_version("system version", QObject::tr("software version"), &versions->major, &versions->minor,
+    ask_version("system version", tr("software version"), &versions->major, &versions->minor,
                 &versions->patch);
-    if (ask("system type", QObject::tr("system type")))
+    if (ask("system type", tr("system type")))
         versions->system_type = QString::fromLatin1(reply).trimmed();
-    ask_version("system firmware_version", QObject::tr("firmware version"), &versions->firmware_major,
+    ask_version("system firmware_version", tr("firmware version"), &versions->firmware_major,
                 &versions->firmware_minor, &versions->firmware_patch);
 
     if (problems)

@@ -1,6 +1,7 @@
 #ifndef VERSIONPROBE_H
 #define VERSIONPROBE_H
 
+#include <QCoreApplication>
 #include <QString>
 #include <QStringList>
 
@@ -12,6 +13,8 @@ struct BackendVersions;
 // version, one query each.
 class VersionProbe
 {
+    Q_DECLARE_TR_FUNCTIONS(VersionProbe)
+
 public:
     // Everything the controller would not tell stays as it was (zero: every
     // gated feature off); *problems lists what could not be read.

@@ -2,7 +2,10 @@
 #include <QApplication>
 #include <QDir>
 #include <QFileInfo>
+#include <QLibraryInfo>
+#include <QLocale>
 #include <QTimer>
+#include <QTranslator>
 
 #include <cstdio>
 #include <memory>
@@ -10,6 +13,7 @@
 #include "HostOptions.h"
 #include "InProcessLink.h"
 #include "MainWindow.h"
+#include "ModuleLoader.h"
 #include "TcpLink.h"
 #include "TourRunner.h"
 #include "simulator/WallClock.h"
@@ -42,6 +46,27 @@ std::unique_ptr<ControllerLink> make_link(const HostOptions& options, QString* e
     return link;
 }
 
+// Qt's own texts (standard buttons, message boxes) and ours, host and
+// modules alike, in the first of the user's languages that has a catalogue;
+// none found leaves the texts as written.
+void install_translators(QApplication* app)
+{
+    const QLocale locale = QLocale::system();
+    const QString ours =
+        QDir(QCoreApplication::applicationDirPath()).filePath(QStringLiteral(NORVANE_TRANSLATIONS_RELATIVE_DIR));
+    const struct {
+        const char* name;
+        QString folder;
+    } catalogues[] = {{"qt", QLibraryInfo::location(QLibraryInfo::TranslationsPath)}, {"norvane", ours}};
+    for (const auto& catalogue : catalogues) {
+        auto* translator = new QTranslator(app);
+        if (translator->load(locale, QString::fromLatin1(catalogue.name), QStringLiteral("_"), catalogue.folder))
+            QApplication::installTranslator(translator);
+        else
+            delete translator;
+    }
+}
+
 } // namespace
 
 int main(int argc, char** argv)
@@ -56,6 +81,7 @@ int main(int argc, char** argv)
     QApplication::setApplicationName(QStringLiteral("norvane-host"));
     QApplication::setApplicationVersion(QStringLiteral(NORVANE_HOST_VERSION));
     QApplication::setOrganizationName(QStringLiteral("Norvane"));
+    install_translators(&app);
 
     HostOptions options;
     if (!options.parse(QApplication::arguments())) {
@@ -90,9 +116,10 @@ int main(int argc, char** argv)
     MainWindow window(link.get());
     QApplication::setWindowIcon(QIcon(QStringLiteral(":/images/icons/norvane_64x64.png")));
     window.connect_controller();
-    const QString plugin_dir = options.plugin_dir.isEmpty() ? QCoreApplication::applicationDirPath()
-                                                            : options.plugin_dir;
-    window.load_modules_from(plugin_dir);
+    const QStringList plugin_dirs = options.plugin_dir.isEmpty() ? ModuleLoader::default_folders()
+                                                                 : QStringList{options.plugin_dir};
+    for (const QString& folder : plugin_dirs)
+        window.load_modules_from(folder);
     window.show();
 
     if (options.tour_dir.isEmpty())

@@ -12,6 +12,6 @@ if [ -z "${DISPLAY:-}" ] && [ -z "${WAYLAND_DISPLAY:-}" ]; then
     folder=${NORVANE_TOUR_DIR:-tour}
     echo "No display (\$DISPLAY and \$WAYLAND_DISPLAY are empty), so norvane-host cannot open its window."
     echo "Taking the tour instead: pictures of the window and the plug-in's dialogs go to $(realpath -m "$folder")/"
-    exec build/bin/norvane-host --tour "$folder" "$@"
+    exec build/bin/norvane-host --tour "$folder" --scenario simulator/scenarios/tour.json "$@"
 fi
 exec build/bin/norvane-host "$@"

@@ -717,7 +717,7 @@ bool ScenarioLoader::read_faults(const QJsonArray& list, qint64 now_ms, QList<Si
             || !read(o, "line", path, &f.pattern) || !read(o, "match", path, &how, true)
             || !read(o, "kind", path, &kind, true) || !read(o, "delay_ms", path, &f.delay_ms, 0, 3600000)
             || !read(o, "code", path, &f.code, 1, 999) || !read(o, "text", path, &f.text)
-            || !read(o, "reply", path, &f.reply) || !read(o, "length", path, &f.length, 0, 1 << 20)
+            || !read_bytes(o, "reply", path, &f.reply) || !read(o, "length", path, &f.length, 0, 1 << 20)
             || !read(o, "skip", path, &f.skip, 0, 1 << 30) || !read(o, "times", path, &f.times, -1, 1 << 30)
             || !read(o, "after_s", path, &after_s, 0.0, 1e7))
             return false;
@@ -734,6 +734,23 @@ bool ScenarioLoader::read_faults(const QJsonArray& list, qint64 now_ms, QList<Si
         f.after_ms = now_ms + qint64(after_s * 1000.0);
         faults->append(f);
     }
+    return true;
+}
+
+bool ScenarioLoader::read_bytes(const QJsonObject& o, const QString& key, const QString& path, QByteArray* value)
+{
+    // Junk is meant to be anything a broken controller may send: control
+    // characters, NULs and high bytes ("\u0000" to "\u00ff") included.
+    const QJsonValue v = o.value(key);
+    if (v.isUndefined())
+        return true;
+    const QString text = v.toString();
+    for (const QChar c : text)
+        if (c.unicode() > 0xff)
+            return fail(at(path, key), "must be bytes, \\u0000 to \\u00ff");
+    if (!v.isString())
+        return fail(at(path, key), "must be a text");
+    *value = text.toLatin1();
     return true;
 }
 

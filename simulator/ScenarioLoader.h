@@ -49,6 +49,7 @@ private:
 
     // Typed reads of an optional key: absent leaves *value as it is, a wrong
     // type or an absurd value is an error naming the key.
+    bool read_bytes(const QJsonObject& o, const QString& key, const QString& path, QByteArray* value);
     bool check_keys(const QJsonObject& o, const QString& path, const QStringList& allowed);
     bool read(const QJsonObject& o, const QString& key, const QString& path, bool* value);
     bool read(const QJsonObject& o, const QString& key, const QString& path, int* value,

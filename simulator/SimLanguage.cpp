@@ -76,10 +76,24 @@ SimResult SimLanguage::answer(SimModel& model, const SimRequest& request)
     return SimResult::error(SimResult::Malformed, "not a request");
 }
 
+QByteArray SimLanguage::clipped(const QByteArray& text)
+{
+    // Texts quote what they refuse, and a request line may be 64 KiB: each
+    // word quoted is cut to its first QuotedLength characters.
+    QList<QByteArray> words = text.split(' ');
+    for (QByteArray& word : words)
+        if (word.size() > QuotedLength)
+            word = word.left(QuotedLength) + "...";
+    QByteArray clipped = words.join(' ');
+    if (clipped.size() > 2 * QuotedLength)
+        clipped = clipped.left(2 * QuotedLength) + "...";
+    return clipped;
+}
+
 QByteArray SimLanguage::reply(const SimRequest& request, const SimResult& result)
 {
     if (!result.ok)
-        return "norvane err " + QByteArray::number(result.code) + " \"" + result.text + '"';
+        return "norvane err " + QByteArray::number(result.code) + " \"" + clipped(result.text) + '"';
     if (request.kind == SimRequest::Query)
         return "norvane set " + request.body + ' ' + result.value;
     return "norvane ok";

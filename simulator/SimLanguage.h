@@ -15,9 +15,15 @@ struct SimRequest;
 class SimLanguage
 {
 public:
+    // Most characters of one word of the request an error text quotes.
+    static constexpr int QuotedLength = 80;
+
     static SimResult answer(SimModel& model, const SimRequest& request);
     // The reply line of an answer to a request.
     static QByteArray reply(const SimRequest& request, const SimResult& result);
+
+    // An error text with every long word cut short.
+    static QByteArray clipped(const QByteArray& text);
 
 private:
     static SimResult query(SimModel& model, const SimRequest& request);

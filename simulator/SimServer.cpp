@@ -45,13 +45,18 @@ void SimServer::accept_clients()
         client->id = next_id++;
         client->socket = socket;
         socket->setParent(this);
+        // Qt reads no further ahead than one line; the rest waits in the
+        // kernel, and the client's sending stalls.
+        socket->setReadBufferSize(MaxLineLength + 1);
         // One short line each way: send it now rather than batch it.
         socket->setSocketOption(QAbstractSocket::LowDelayOption, 1);
         clients.append(client);
-        connect(socket, &QTcpSocket::readyRead, this, [this, socket] {
+        const auto serve_socket = [this, socket] {
             if (Client* c = find(socket))
                 serve(c);
-        });
+        };
+        connect(socket, &QTcpSocket::readyRead, this, serve_socket);
+        connect(socket, &QTcpSocket::bytesWritten, this, serve_socket);
         connect(socket, &QTcpSocket::disconnected, this, [this, socket] {
             if (Client* c = find(socket))
                 drop(c);
@@ -63,41 +68,88 @@ void SimServer::accept_clients()
 
 void SimServer::serve(Client* client)
 {
-    client->pending += client->socket->readAll();
-    while (!client->waiting && !client->closing) {
+    serve_lines(client);
+    // Out now, not from a later pass of the event loop: a client that shut
+    // its sending side after its request is closed by Qt as soon as the end
+    // of its data is read, and what was not yet written would be lost.
+    if (!client->closing)
+        client->socket->flush();
+}
+
+void SimServer::serve_lines(Client* client)
+{
+    int budget = RequestsPerPass;
+    while (!client->waiting && !client->closing && client->socket->bytesToWrite() <= MaxUnreadReplyBytes) {
+        const qint64 room = MaxLineLength + 1 - client->pending.size();
+        if (room > 0)
+            client->pending += client->socket->read(room);
         const int end = client->pending.indexOf('\n');
-        if (end < 0) {
-            if (client->pending.size() > MaxLineLength) {
-                client->pending.clear();
-                SimReply refusal;
-                refusal.line = "norvane err 2 \"line too long\"";
-                send(client, refusal);
-            }
+        if (client->discarding) {
+            client->pending.remove(0, end < 0 ? client->pending.size() : end + 1);
+            client->discarding = end < 0;
+            if (end < 0 && client->socket->bytesAvailable() == 0)
+                return;
+            continue;
+        }
+        if (end < 0 && client->pending.size() <= MaxLineLength)
+            return;   // the rest of the line is still to come
+        if (budget-- == 0) {
+            queue_pass(client);
             return;
+        }
+        if (end < 0) {
+            // One refusal per line, however it arrives; what follows its
+            // line end is a fresh start.
+            client->pending.clear();
+            client->discarding = true;
+            SimReply refusal;
+            refusal.line = "norvane err 2 \"line too long\"";
+            send(client, refusal);
+            continue;
         }
         const QByteArray line = client->pending.left(end);
         client->pending.remove(0, end + 1);
-        const SimReply reply = controller->handle(line);
-        emit answered(client->id, line, reply);
-        if (reply.silent)
-            continue;
-        if (reply.delay_ms <= 0) {
-            send(client, reply);
-            continue;
-        }
-        // Later lines of this client wait their turn: replies keep the order
-        // of the requests.
-        client->waiting = true;
-        QPointer<QTcpSocket> socket = client->socket;
-        QTimer::singleShot(reply.delay_ms, this, [this, socket, reply] {
-            Client* c = socket ? find(socket) : nullptr;
-            if (!c)
-                return;
-            c->waiting = false;
-            send(c, reply);
-            serve(c);
-        });
+        answer(client, line, false);
     }
+}
+
+void SimServer::answer(Client* client, const QByteArray& line, bool at_once)
+{
+    const SimReply reply = controller->handle(line);
+    emit answered(client->id, line, reply);
+    if (reply.silent)
+        return;
+    if (reply.delay_ms <= 0 || at_once) {
+        send(client, reply);
+        return;
+    }
+    // Later lines of this client wait their turn: replies keep the order
+    // of the requests.
+    client->waiting = true;
+    client->late = reply;
+    QPointer<QTcpSocket> socket = client->socket;
+    QTimer::singleShot(reply.delay_ms, this, [this, socket] {
+        Client* c = socket ? find(socket) : nullptr;
+        if (!c || !c->waiting)
+            return;
+        c->waiting = false;
+        send(c, c->late);
+        serve(c);
+    });
+}
+
+void SimServer::queue_pass(Client* client)
+{
+    if (client->pass_queued)
+        return;
+    client->pass_queued = true;
+    QPointer<QTcpSocket> socket = client->socket;
+    QTimer::singleShot(0, this, [this, socket] {
+        if (Client* c = socket ? find(socket) : nullptr) {
+            c->pass_queued = false;
+            serve(c);
+        }
+    });
 }
 
 void SimServer::send(Client* client, const SimReply& reply)

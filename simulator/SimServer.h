@@ -15,7 +15,11 @@ class SimulatedController;
 
 // Serves one simulated controller over TCP: each connection sends request
 // lines ending in LF and gets one reply line per request, in order. Several
-// clients share the controller, as several front ends share a real one.
+// clients share the controller, as several front ends share a real one, and
+// take turns: a pass serves at most RequestsPerPass lines of one client
+// before the others get theirs. What a client sends is read only as fast as
+// it is answered, so neither its requests nor its unread replies pile up
+// beyond a bound.
 class SimServer : public QObject
 {
     Q_OBJECT
@@ -24,6 +28,9 @@ public:
     // Longest request line accepted; a longer one is answered with an error
     // and dropped, so a client cannot make the server hoard memory.
     static constexpr int MaxLineLength = 64 * 1024;
+    static constexpr int RequestsPerPass = 16;
+    // Replies a client has not read yet, beyond which it is not served.
+    static constexpr int MaxUnreadReplyBytes = 1024 * 1024;
 
     // The controller is not owned and must outlive the server.
     explicit SimServer(SimulatedController* controller, QObject* parent = nullptr);
@@ -51,10 +58,16 @@ private:
         QTcpSocket* socket = nullptr;
         QByteArray pending;     // received, not yet answered
         bool waiting = false;   // a late answer is on its way
+        SimReply late;          // ... this one
         bool closing = false;   // hung up on purpose
+        bool discarding = false;   // inside a line too long, up to its line end
+        bool pass_queued = false;
     };
 
     void serve(Client* client);
+    void serve_lines(Client* client);
+    void answer(Client* client, const QByteArray& line, bool at_once);
+    void queue_pass(Client* client);
     void send(Client* client, const SimReply& reply);
     void drop(Client* client);
     Client* find(QTcpSocket* socket);

@@ -4,18 +4,14 @@
 #include <QThread>
 
 #include "ScriptedLink.h"
-#include "ScriptedTcpController.h"
-#include "host/InProcessLink.h"
 #include "host/MessageHub.h"
 #include "host/TcpLink.h"
 #include "module/MessageReceiver.h"
-#include "simulator/ManualClock.h"
-#include "simulator/SimulatedController.h"
 
-// The link's rules for every IOManager call on a scripted transport; the
-// in-process simulator's faults turned into the same failures; over TCP one
-// connection while all goes well, a fresh one after a reply that came late,
-// cut short or without end, and fast failures while the controller is gone.
+// The link's rules for every IOManager call on a scripted transport; an
+// outage failing every call at once until a probe from the event loop finds
+// the controller again. The simulator's faults over TCP: tst_SimServer;
+// in-process: tst_HostileController.
 class tst_ControllerLink : public QObject
 {
     Q_OBJECT
@@ -24,12 +20,11 @@ private slots:
     void replies_data();
     void replies();
     void asynchronous_command_and_timeouts();
+    void outage_and_notices();
     void trace();
     void messages_by_receiver_name();
-    void in_process_faults();
     void parse_address_data();
     void parse_address();
-    void tcp();
 };
 
 namespace {
@@ -42,6 +37,11 @@ constexpr int Unset = -7777;
 QString perform(ControllerLink& link, const QByteArray& call, int* result)
 {
     const QByteArray op = call.split(' ').first();
+    if (op == "count") {
+        int n = Unset;
+        *result = link.get_int(&n, "%s", call.mid(6).constData());
+        return n == Unset ? QStringLiteral("-") : QString::number(n);
+    }
     const int count = qBound(1, call.split(' ').value(1).toInt(), 2);
     QByteArray text(IOManager::ReplyCapacity + 16, 'Z');
     int ints[2] = {Unset, Unset};
@@ -117,6 +117,25 @@ void tst_ControllerLink::replies_data()
     row("text that just fits", "string", "=" + QByteArray(255, 'v'), 0, QString(255, 'v'));
     row("text one too long", "string", "=" + QByteArray(256, 'v'), L::ReplyTooLong, "-",
         "reply of 256 characters does not fit the 256-byte buffer");
+    row("NUL inside", "string", QByteArray("=yes\0junk", 9), L::MalformedReply, "-",
+        "reply holds the byte 0x00 at 17, which is not printable ASCII");
+    row("escape sequence", "string", "=\x1b[31mred", L::MalformedReply, "-", "byte 0x1b at 14");
+    row("high byte", "string", "=caf\xe9", L::MalformedReply, "-", "byte 0xe9");
+    row("tab", "int", "=1\t2", L::MalformedReply, "-", "byte 0x09");
+    row("error reply with a control character", "set", "norvane err 3 \"\x07\"", L::MalformedReply, "-");
+    row("most sensors", "count inertial number_of_sensors", "=256", 0, "256");
+    row("absurd count of sensors", "count inertial number_of_sensors", "=2147483647", L::MalformedReply, "-",
+        "a count of 2147483647 is beyond the plausible 0 to 256");
+    row("negative count", "count inertial number_of_sensors", "=-1", L::MalformedReply, "-");
+    row("scan not finished", "count inertial number_of_scanned_sensors", "=-1", 0, "-1");
+    row("scan count below -1", "count inertial number_of_scanned_sensors", "=-2", L::MalformedReply, "-");
+    row("absurd count of transceivers", "count inertial number_of_transceivers", "=17", L::MalformedReply, "-");
+    row("absurd count of channels", "count inertial number_of_transceiver_available_radio_channels NRV RD2 '1'",
+        "=99999", L::MalformedReply, "-", "0 to 128");
+    row("absurd count of bodies", "count body number_of_bodies standard", "=257", L::MalformedReply, "-");
+    row("absurd count of presets", "count filter6d number_of_presets", "=65", L::MalformedReply, "-");
+    row("absurd count of anything", "count wand number_of_things", "=1025", L::MalformedReply, "-", "0 to 1024");
+    row("not a count", "count inertial frequency", "=99999", 0, "99999");
     row("setting", "set", "norvane ok", 0, "-");
     row("setting: ok and more", "set", "norvane ok ", L::MalformedReply, "-", "expected \"norvane ok\"");
     row("setting refused", "set", "norvane err 3 \"out of range\"", L::ControllerError, "-", "(error 3: out of range)");
@@ -139,11 +158,12 @@ void tst_ControllerLink::replies()
     QFETCH(QString, got);
     QFETCH(QString, error);
     ScriptedLink link;
+    const QByteArray path = call.startsWith("count ") ? call.mid(6) : QByteArray("p");
     const QByteArray request = call.startsWith("command ") ? call.mid(8)
                                : call == "set"              ? QByteArray("norvane set p yes")
-                                                            : QByteArray("norvane get p");
+                                                            : "norvane get " + path;
     if (!reply.isEmpty())
-        link.reply(request, reply.startsWith('=') ? "norvane set p " + reply.mid(1) : reply);
+        link.reply(request, reply.startsWith('=') ? "norvane set " + path + ' ' + reply.mid(1) : reply);
     int answer = Unset;
     QCOMPARE(perform(link, call, &answer), got);
     QCOMPARE(answer, result);
@@ -189,14 +209,14 @@ void tst_ControllerLink::asynchronous_command_and_timeouts()
     QCOMPARE(abandoned, untouched);
     QCOMPARE(link.round_trips(), 5L);
 
-    // Asked for by a handler: over once control is back in the event loop.
+    // Asked for by a handler for its long command: over with that command,
+    // or once control is back in the event loop.
     link.set_timeout(true, 20000, true);
     QCoreApplication::processEvents();
     QCOMPARE(link.send_command(buffer.data(), "norvane scan"), 0);
     link.set_timeout(false, 10000, true);
-    QCOMPARE(link.get_int(&n, "n"), 0);
     QCOMPARE(link.current_timeout(), 10000);
-    QCoreApplication::processEvents();
+    QCOMPARE(link.send_command(buffer.data(), "norvane scan"), 0);
     QCOMPARE(link.current_timeout(), int(ControllerLink::DefaultTimeoutMs));
     link.set_default_timeout(1500);
     link.set_timeout(false, 1, true);
@@ -205,6 +225,55 @@ void tst_ControllerLink::asynchronous_command_and_timeouts()
     QCOMPARE(link.current_timeout(), 1500);
     link.set_default_timeout(0);
     QCOMPARE(link.current_timeout(), int(ControllerLink::DefaultTimeoutMs));
+}
+
+void tst_ControllerLink::outage_and_notices()
+{
+    ScriptedLink link;
+    link.reply("norvane get a", "norvane set a yes");
+    link.reply("norvane get long", "norvane set long " + QByteArray(300, 'x'));
+    link.reply("norvane get junk", "norvane set junk \x01");
+    QSignalSpy notices(&link, &ControllerLink::notice);
+    char reply[IOManager::ReplyCapacity];
+    const auto ask = [&](const char* path) {
+        const int result = link.get_string(reply, "%s", path);
+        return QStringLiteral("%1 %2").arg(result).arg(result ? link.last_error() : reply);
+    };
+    for (int twice = 0; twice < 2; ++twice) {
+        QVERIFY(ask("long").startsWith("6 "));
+        QVERIFY(ask("junk").startsWith("5 "));
+    }
+    QElapsedTimer clock;
+    clock.start();
+    QCOMPARE(ask("silent"), "3 no reply");
+    const QString since = QTime::currentTime().toString("HH:mm:ss");
+    // Every call fails at once, nothing goes out, until a probe is answered;
+    // probes come ever more rarely.
+    link.answer_probes(false);
+    const int written = link.written().size();
+    QCOMPARE(ask("a"), "2 the controller is not answering since " + since);
+    QCOMPARE(link.set_value("a yes"), int(ControllerLink::TransportFailure));
+    QCOMPARE(link.written().size(), written);
+    QTRY_COMPARE_WITH_TIMEOUT(link.probe_count(), 2, 5000);
+    // 500 ms, then 1000 ms, give or take the timers' coarseness.
+    QVERIFY2(clock.elapsed() >= ControllerLink::FirstRetryMs * 3 * 19 / 20, qPrintable(QString::number(clock.elapsed())));
+    QVERIFY(!link.is_answering());
+    link.answer_probes(true);
+    QTRY_VERIFY_WITH_TIMEOUT(link.is_answering(), 5000);
+    QCOMPARE(link.probe_count(), 3);
+    QCOMPARE(ask("a"), "0 yes");
+    QVERIFY(ask("junk").startsWith("5 "));   // told again after the outage
+    QStringList told;
+    for (const QList<QVariant>& notice : notices)
+        told << notice.at(0).toString();
+    QCOMPARE(told, QStringList({"The controller sent a reply that does not fit: reply of 300 characters does not fit the "
+                                "256-byte buffer.",
+                                "The controller sent something that is not its language: reply holds the byte 0x01 at 17, "
+                                "which is not printable ASCII.",
+                                "The scripted controller is not answering since " + since + " (no reply).",
+                                "The scripted controller is answering again.",
+                                "The controller sent something that is not its language: reply holds the byte 0x01 at 17, "
+                                "which is not printable ASCII."}));
 }
 
 void tst_ControllerLink::trace()
@@ -222,6 +291,7 @@ void tst_ControllerLink::trace()
     link.get_string(reply, "a");
     link.get_string(reply, "b");                 // goes out, never answered
     link.send_command(reply, "tracking start");  // refused, never sent
+    QTRY_VERIFY(link.is_answering());
     link.refuse_writes(true);
     link.get_string(reply, "a");                 // cannot go out
     QCOMPARE(trips.count(), 2);
@@ -297,48 +367,6 @@ void tst_ControllerLink::messages_by_receiver_name()
                                    "No receiver \"Gone\" for the message from Elsewhere: too late"}));
 }
 
-void tst_ControllerLink::in_process_faults()
-{
-    InProcessLink link(std::make_unique<ManualClock>());
-    QString error;
-    QVERIFY2(link.simulator()->load_scenario(R"({"extends": "default", "faults": [
-        {"line": "norvane get inertial number_of_sensors", "kind": "hang_up", "times": 1},
-        {"line": "norvane get inertial warmup", "kind": "late", "delay_ms": 150},
-        {"line": "norvane get inertial frequency", "kind": "late", "delay_ms": 401},
-        {"line": "norvane get inertial available", "kind": "silent"}]})", &error), qPrintable(error));
-    QSignalSpy connection(&link, &ControllerLink::connection_changed);
-    int count = Unset;
-    QCOMPARE(link.get_int(&count, "inertial number_of_sensors"), int(ControllerLink::TransportFailure));
-    QCOMPARE(link.last_error(), "the controller closed the connection in the middle of a reply");
-    QCOMPARE(link.get_int(&count, "inertial number_of_sensors"), 0);
-    QCOMPARE(count, 5);
-    QCOMPARE(connection.count(), 2);
-    // Late and silent replies take as long as they would over the wire, and
-    // without real delays no time at all.
-    link.set_default_timeout(400);
-    char reply[IOManager::ReplyCapacity];
-    const char* paths[] = {"inertial warmup", "inertial frequency", "inertial available"};
-    const QString outcomes[] = {"0 ", "3 reply 401 ms late, beyond the time-out", "3 no reply within the time-out"};
-    const int waits[] = {150, 400, 400};
-    for (const bool real : {true, false}) {
-        link.set_real_delays(real);
-        for (int i = 0; i < 3; ++i) {
-            QElapsedTimer clock;
-            clock.start();
-            QCOMPARE(QStringLiteral("%1 %2").arg(link.get_string(reply, paths[i])).arg(link.last_error()), outcomes[i]);
-            QVERIFY2(real ? clock.elapsed() >= waits[i] - 10 && clock.elapsed() < 1500 : clock.elapsed() < 100, paths[i]);
-        }
-    }
-
-    QCOMPARE(link.description(), QStringLiteral("simulated controller (default scenario)"));
-    QVERIFY(!link.load_scenario_file(QStringLiteral("/nowhere/missing.json"), &error));
-    QCOMPARE(link.description(), QStringLiteral("simulated controller (default scenario)"));
-    QVERIFY2(link.load_scenario_file(QStringLiteral(SCENARIO_DIR "/old_controller.json"), &error), qPrintable(error));
-    QCOMPARE(link.description(), QStringLiteral("simulated controller (old_controller.json)"));
-    QCOMPARE(link.get_string(reply, "system version"), 0);
-    QCOMPARE(reply, "1.15.3");
-}
-
 void tst_ControllerLink::parse_address_data()
 {
     QTest::addColumn<QString>("text");
@@ -363,59 +391,6 @@ void tst_ControllerLink::parse_address()
     QCOMPARE(ok ? QStringLiteral("%1 %2").arg(host).arg(port) : QString(), parsed);
     if (ok)
         QCOMPARE(TcpLink(host, port).address(), text);
-}
-
-void tst_ControllerLink::tcp()
-{
-    ScriptedTcpController controller;
-    QVERIFY(controller.start());
-    controller.reply("norvane get a", "norvane set a yes");
-    controller.reply("norvane get long", "norvane set long " + QByteArray(600, 'x'));
-    controller.script("norvane get endless", QByteArray(ControllerLink::MaxLineLength + 10, 'g'));
-    controller.script("norvane get cut", "norvane set cut 1", 0, true);
-    controller.script("norvane get late", "norvane set late 5\n", 300);
-    controller.script("norvane get silent", "");
-    controller.script("norvane scan", "norvane ok\n", 100);
-    TcpLink link(QStringLiteral("127.0.0.1"), controller.port());
-    QSignalSpy connection(&link, &ControllerLink::connection_changed);
-    char reply[IOManager::ReplyCapacity] = "";
-    const auto ask = [&link, &reply](const char* path) {
-        const int result = link.get_string(reply, "%s", path);
-        return QStringLiteral("%1 %2").arg(result).arg(result ? link.last_error() : reply);
-    };
-    // A reply too long for the buffer was still read whole: the next is in step.
-    QCOMPARE(ask("long"), "6 reply of 600 characters does not fit the 256-byte buffer");
-    QCOMPARE(ask("a"), "0 yes");
-    QCOMPARE(controller.connections(), 1);
-    QCOMPARE(connection.count(), 1);
-    // Whatever leaves the stream out of step takes the connection with it.
-    link.set_timeout(false, 2000, false);
-    QCOMPARE(ask("endless"), "6 reply longer than 65536 bytes without a line end");
-    QCOMPARE(ask("cut"), "2 the controller closed the connection in the middle of a reply");
-    link.set_timeout(false, 200, false);
-    QElapsedTimer clock;
-    clock.start();
-    QCOMPARE(ask("silent"), "3 no reply within 200 ms");
-    QVERIFY(clock.elapsed() >= 190);
-    QCOMPARE(ask("late"), "3 no reply within 200 ms");
-    QCOMPARE(ask("a"), "0 yes");
-    QCOMPARE(controller.connections(), 5);
-    link.set_timeout(true, 20000, true);
-    QCOMPARE(link.send_command(reply, "norvane scan"), int(ControllerLink::Pending));
-    QCOMPARE(link.wait_for_completion(nullptr), 0);
-    QCOMPARE(reply, "norvane ok");
-
-    // The controller gone: a failed attempt, then failures at once until the
-    // retry interval is over.
-    const int changes = connection.count();
-    controller.stop();
-    QTRY_COMPARE(connection.count(), changes + 1);
-    QVERIFY(ask("a").startsWith("2 cannot connect to the controller at 127.0.0.1:"));
-    QVERIFY(controller.start(controller.port()));
-    QVERIFY(ask("a").startsWith("2 no connection to the controller at 127.0.0.1:"));
-    link.set_retry_interval(0);
-    QCOMPARE(ask("a"), "0 yes");
-    QVERIFY(link.is_connected());
 }
 
 QTEST_MAIN(tst_ControllerLink)

@@ -212,11 +212,16 @@ void tst_MainWindow::versions_read_again_on_reconnect()
     QCOMPARE(window->message_log()->texts().last(),
              QStringLiteral("Connected to the scripted controller: software 1.12.-1, system type PORTAFRAME, "
                             "firmware 3.0.0."));
-    // Known now: a later reconnect asks nothing.
+    // Known now: a later reconnect asks nothing. The window tells of the
+    // outage, once, until the controller answers again.
     link->simulate_connection(false);
-    QCOMPARE(label("label_state"), QStringLiteral("not connected"));
+    const QString down = "The scripted controller is not answering since " + QTime::currentTime().toString("HH:mm:ss");
+    QCOMPARE(label("label_state"), down.mid(27));
+    QCOMPARE(window->statusBar()->currentMessage(), down + " (the controller closed the connection).");
     link->simulate_connection(true);
-    QCoreApplication::processEvents();
+    QTRY_COMPARE(label("label_state"), QStringLiteral("connected"));
+    QCOMPARE(window->message_log()->texts().mid(4), QStringList({down + " (the controller closed the connection).",
+                                                                 "The scripted controller is answering again."}));
     QCOMPARE(link->round_trips(), 6L);
 }
 

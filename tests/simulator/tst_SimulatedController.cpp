@@ -1,6 +1,6 @@
 #include <QtTest>
 
-#include <cmath>
+#include <algorithm>
 
 #include "ControllerProbe.h"
 
@@ -21,7 +21,6 @@ private slots:
     void scenarios_data();
     void scenarios() { run(); }
     void channel_scan_suggests_the_quietest();
-    void calibration_results();
 
 private:
     static void run()
@@ -340,42 +339,6 @@ void tst_SimulatedController::channel_scan_suggests_the_quietest()
     // Busy channels, and the other transceiver's, count as taken.
     QCOMPARE(activity[13], 1.0);
     QCOMPARE(activity[35], 1.0);
-}
-
-void tst_SimulatedController::calibration_results()
-{
-    // Hand-eye: an offset, then a rotation column by column (orthonormal,
-    // determinant 1), a residual and a delay.
-    ControllerProbe probe;
-    QCOMPARE(probe.run("set inertial sensor_handeye_calibrate $S2 yes -> ok | cal inertial_handeye start -> ok | +20"),
-             QString());
-    const QList<QByteArray> words = probe.ask("norvane get inertial new_sensor_handeye $S2").split(' ');
-    QCOMPARE(words.size(), 7 + 12);
-    double m[9];
-    for (int i = 0; i < 9; ++i)
-        m[i] = words.at(10 + i).toDouble();
-    for (int a = 0; a < 3; ++a)
-        for (int b = 0; b < 3; ++b)
-            QVERIFY(std::fabs(m[a * 3] * m[b * 3] + m[a * 3 + 1] * m[b * 3 + 1] + m[a * 3 + 2] * m[b * 3 + 2]
-                              - (a == b ? 1.0 : 0.0)) < 1e-4);
-    QVERIFY(std::fabs(m[0] * (m[4] * m[8] - m[7] * m[5]) - m[3] * (m[1] * m[8] - m[7] * m[2])
-                      + m[6] * (m[1] * m[5] - m[4] * m[2]) - 1.0) < 1e-4);
-    const double residual = probe.ask("norvane get inertial new_sensor_handeye_residual $S2").split(' ').last().toDouble();
-    const double delay = probe.ask("norvane get inertial new_sensor_delay $S2").split(' ').last().toDouble();
-    QVERIFY(residual > 0.0 && residual < 5.0);
-    QVERIFY(delay >= 6.0 && delay <= 20.0);
-
-    // A gyroscope residual is larger for a cold sensor.
-    double residuals[2];
-    for (const bool warm : {true, false}) {
-        ControllerProbe gyro;
-        QCOMPARE(gyro.run(QByteArray(warm ? "set inertial warmup yes -> ok | +400 | " : "")
-                          + "set inertial sensor_gyro_calibrate $S1 yes -> ok | cal inertial_gyro start -> ok | +20"),
-                 QString());
-        residuals[warm] = gyro.ask("norvane get inertial new_sensor_gyro_residual $S1").split(' ').last().toDouble();
-    }
-    QVERIFY(residuals[1] > 0.0 && residuals[1] < 1.0);
-    QVERIFY(residuals[0] > 2.0 * residuals[1]);
 }
 
 QTEST_APPLESS_MAIN(tst_SimulatedController)
