@@ -1,10 +1,12 @@
 #include "ControllerLink.h"
 
 #include <QDateTime>
+#include <QTime>
 #include <QFile>
 #include <QRegularExpression>
 
 #include <cmath>
+#include <cstdio>
 #include <cstring>
 #include <vector>
 
@@ -385,14 +387,36 @@ void ControllerLink::abandon_pending()
 QString ControllerLink::trace_line(const QByteArray& request, const QByteArray& reply, bool replied,
                                    qint64 duration_ns, const QString& error)
 {
-    QString line = QStringLiteral("%1 %2 ms  %3  ->  %4")
-                       .arg(QDateTime::currentDateTime().toString(QStringLiteral("HH:mm:ss.zzz")))
-                       .arg(double(duration_ns) / 1e6, 8, 'f', 3)
-                       .arg(QString::fromLatin1(request),
-                            replied ? QString::fromLatin1(reply) : tr("(no reply)"));
+    // "HH:mm:ss.zzz    0.123 ms", in whole numbers: printf's %f would take
+    // the user's decimal comma.
+    const qint64 us = (qMax<qint64>(0, duration_ns) + 500) / 1000;
+    char head[64];
+    std::snprintf(head, sizeof head, "%s %4lld.%03lld ms  ", time_of_day().constData(),
+                  static_cast<long long>(us / 1000), static_cast<long long>(us % 1000));
+    QString line = QLatin1String(head) + QLatin1String(request) + QLatin1String("  ->  ")
+                   + (replied ? QString::fromLatin1(reply) : tr("(no reply)"));
     if (!error.isEmpty())
-        line += QStringLiteral("  [%1]").arg(error);
+        line += QLatin1String("  [") + error + QLatin1Char(']');
     return line;
+}
+
+QByteArray ControllerLink::time_of_day()
+{
+    // The wall clock is read once; later stamps add the monotonic time
+    // since, which asks nothing of the time zone on every exchange. A clock
+    // change while the host runs moves no stamp.
+    static const qint64 start_ms = QTime::currentTime().msecsSinceStartOfDay();
+    static const QElapsedTimer since = [] {
+        QElapsedTimer timer;
+        timer.start();
+        return timer;
+    }();
+    constexpr qint64 DayMs = 24 * 3600 * 1000;
+    const qint64 ms = (start_ms + since.elapsed()) % DayMs;
+    char text[16];
+    std::snprintf(text, sizeof text, "%02d:%02d:%02d.%03d", int(ms / 3600000), int(ms / 60000 % 60),
+                  int(ms / 1000 % 60), int(ms % 1000));
+    return QByteArray(text);
 }
 
 int ControllerLink::copy_to(const QByteArray& text, char* buffer, QString* error)

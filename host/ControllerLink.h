@@ -112,6 +112,8 @@ public:
     // One trace line for an exchange, as traced() and the trace file show it.
     static QString trace_line(const QByteArray& request, const QByteArray& reply, bool replied,
                               qint64 duration_ns, const QString& error);
+    // "HH:mm:ss.zzz" now, from a monotonic clock.
+    static QByteArray time_of_day();
 
 signals:
     // Every exchange, after it ended, with its duration.

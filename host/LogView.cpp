@@ -1,9 +1,9 @@
 #include "LogView.h"
 
-#include <QDateTime>
 #include <QScrollBar>
 #include <QTextBlock>
 #include <QTextCursor>
+#include <QTime>
 
 namespace {
 
@@ -23,11 +23,9 @@ LogView::LogView(QWidget* parent) : QPlainTextEdit(parent)
     setFont(fixed);
 }
 
-QString LogView::decorate(const QString& text) const
+QString LogView::decorate(const Entry& entry) const
 {
-    QString line = timestamps
-                       ? QStringLiteral("%1  %2").arg(QTime::currentTime().toString(QStringLiteral("HH:mm:ss")), text)
-                       : text;
+    QString line = timestamps ? QStringLiteral("%1  %2").arg(entry.time, entry.text) : entry.text;
     if (repeats > 1)
         line += tr("  (%1 times)").arg(repeats);
     return line;
@@ -35,27 +33,59 @@ QString LogView::decorate(const QString& text) const
 
 void LogView::append_entry(const QString& text, bool emphasised)
 {
-    QTextCharFormat format;
-    if (emphasised)
-        format.setForeground(QColor(170, 0, 0));
+    // Older entries than the view keeps would only be dropped again.
+    const int kept = maximumBlockCount();
+    while (kept > 0 && waiting.size() >= size_t(kept))
+        waiting.pop_front();
+    waiting.push_back({text, timestamps ? QTime::currentTime().toString(QStringLiteral("HH:mm:ss")) : QString(),
+                    emphasised});
+    if (!flush_queued) {
+        flush_queued = true;
+        QMetaObject::invokeMethod(this, &LogView::flush_if_shown, Qt::QueuedConnection);
+    }
+}
 
+void LogView::flush_if_shown()
+{
+    flush_queued = false;
+    if (isVisible())
+        flush();
+}
+
+void LogView::showEvent(QShowEvent* event)
+{
+    flush();
+    QPlainTextEdit::showEvent(event);
+}
+
+void LogView::flush()
+{
+    if (waiting.empty())
+        return;
     QScrollBar* bar = verticalScrollBar();
     const bool following = bar->value() >= bar->maximum() - 2;
-    const bool repeated = text == last_text && !document()->isEmpty();
-    repeats = repeated ? repeats + 1 : 1;
-    last_text = text;
 
     QTextCursor cursor(document());
-    cursor.movePosition(QTextCursor::End);
-    if (repeated) {
-        cursor.movePosition(QTextCursor::StartOfBlock, QTextCursor::KeepAnchor);
-    } else if (!document()->isEmpty() && !document()->lastBlock().text().isEmpty()) {
-        cursor.insertBlock();
+    cursor.beginEditBlock();
+    // Lines shown as they came (the traffic) go in together; decorated,
+    // emphasised and repeated ones need blocks of their own.
+    QString plain;
+    for (const Entry& entry : qAsConst(waiting)) {
+        const bool repeated = entry.text == last_text && (!document()->isEmpty() || !plain.isEmpty());
+        repeats = repeated ? repeats + 1 : 1;
+        last_text = entry.text;
+        if (!repeated && !entry.emphasised && !timestamps) {
+            if (!plain.isEmpty())
+                plain += QLatin1Char('\n');
+            plain += entry.text;
+            continue;
+        }
+        insert_plain(cursor, &plain);
+        insert_single(cursor, entry, repeated);
     }
-    QTextBlockFormat block_format;
-    block_format.setProperty(RawTextProperty, text);
-    cursor.setBlockFormat(block_format);
-    cursor.insertText(decorate(text), format);
+    insert_plain(cursor, &plain);
+    cursor.endEditBlock();
+    waiting.clear();
 
     // Follow the newest entry unless the user scrolled back to read.
     if (following)
@@ -63,8 +93,40 @@ void LogView::append_entry(const QString& text, bool emphasised)
     horizontalScrollBar()->setValue(0);
 }
 
+void LogView::insert_single(QTextCursor& cursor, const Entry& entry, bool replace_last)
+{
+    QTextCharFormat format;
+    if (entry.emphasised)
+        format.setForeground(QColor(170, 0, 0));
+    cursor.movePosition(QTextCursor::End);
+    if (replace_last)
+        cursor.movePosition(QTextCursor::StartOfBlock, QTextCursor::KeepAnchor);
+    else if (!document()->isEmpty() && !document()->lastBlock().text().isEmpty())
+        cursor.insertBlock();
+    QTextBlockFormat block_format;
+    block_format.setProperty(RawTextProperty, entry.text);
+    cursor.setBlockFormat(block_format);
+    cursor.insertText(decorate(entry), format);
+}
+
+void LogView::insert_plain(QTextCursor& cursor, QString* lines)
+{
+    if (lines->isEmpty())
+        return;
+    cursor.movePosition(QTextCursor::End);
+    // Blocks made from the line feeds take this format: no raw text, the
+    // line is its own.
+    if (!document()->isEmpty() && !document()->lastBlock().text().isEmpty())
+        cursor.insertBlock(QTextBlockFormat(), QTextCharFormat());
+    else
+        cursor.setBlockFormat(QTextBlockFormat());
+    cursor.insertText(*lines, QTextCharFormat());
+    lines->clear();
+}
+
 QStringList LogView::entries() const
 {
+    const_cast<LogView*>(this)->flush();
     QStringList lines;
     for (QTextBlock block = document()->firstBlock(); block.isValid(); block = block.next())
         if (!block.text().isEmpty())
@@ -74,9 +136,13 @@ QStringList LogView::entries() const
 
 QStringList LogView::texts() const
 {
+    const_cast<LogView*>(this)->flush();
     QStringList lines;
-    for (QTextBlock block = document()->firstBlock(); block.isValid(); block = block.next())
-        if (!block.text().isEmpty())
-            lines << block.blockFormat().property(RawTextProperty).toString();
+    for (QTextBlock block = document()->firstBlock(); block.isValid(); block = block.next()) {
+        if (block.text().isEmpty())
+            continue;
+        const QTextBlockFormat format = block.blockFormat();
+        lines << (format.hasProperty(RawTextProperty) ? format.property(RawTextProperty).toString() : block.text());
+    }
     return lines;
 }

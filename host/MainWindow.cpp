@@ -66,8 +66,14 @@ MainWindow::MainWindow(ControllerLink* controller, QWidget* parent)
     connect(hub, &MessageHub::standard_message, this, &MainWindow::show_user_message);
     connect(hub, &MessageHub::note, this, [this](const QString& text) { log_note(text, true); });
     connect(link, &ControllerLink::traced, ui->logView_traffic, &LogView::append_entry);
-    connect(link, &ControllerLink::round_trips_changed, ui->label_roundTrips,
-            [this](long trips) { ui->label_roundTrips->setNum(int(trips)); });
+    // The count changes with every exchange; drawing it once per pass of
+    // the event loop is as current as the eye can see.
+    connect(link, &ControllerLink::round_trips_changed, this, [this] {
+        if (round_trips_queued)
+            return;
+        round_trips_queued = true;
+        QMetaObject::invokeMethod(this, &MainWindow::show_round_trips, Qt::QueuedConnection);
+    });
     connect(link, &ControllerLink::connection_changed, this, &MainWindow::update_connection_state);
     connect(link, &ControllerLink::notice, this, [this](const QString& text) {
         log_note(text, true);
@@ -316,6 +322,12 @@ void MainWindow::show_connection_state(const QString& state)
 {
     ui->label_state->setText(state);
     connection_label->setText(QStringLiteral("%1 \u2014 %2").arg(link->description(), state));
+}
+
+void MainWindow::show_round_trips()
+{
+    round_trips_queued = false;
+    ui->label_roundTrips->setNum(int(link->round_trips()));
 }
 
 void MainWindow::update_controller_view()

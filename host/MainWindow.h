@@ -87,6 +87,7 @@ private:
     void log_note(const QString& text, bool problem = false);
     void report_loader_problems();
     void update_controller_view();
+    void show_round_trips();
     void update_connection_state(bool connected);
     void show_connection_state(const QString& state);
     void reread_versions_after_reconnect(bool connected);
@@ -99,6 +100,7 @@ private:
     QLabel* connection_label;
     BackendVersions versions;
     bool versions_known = false;
+    bool round_trips_queued = false;
     bool shut_down = false;
     int loader_problems_reported = 0;
     QList<ModuleInterface*> installed;

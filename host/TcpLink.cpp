@@ -164,13 +164,17 @@ bool TcpLink::write_request(const QByteArray& line, QDeadlineTimer deadline, QSt
     if (!ensure_connected(deadline, error))
         return false;
     // Whatever arrived unasked belongs to no request of ours.
-    socket.readAll();
+    if (socket.bytesAvailable() > 0)
+        socket.skip(socket.bytesAvailable());
     input.clear();
     if (socket.write(line + '\n') != line.size() + 1) {
         *error = tr("cannot send to the controller: %1").arg(socket.errorString());
         drop();
         return false;
     }
+    // Straight to the kernel; waiting for the socket to be writable first
+    // only costs a poll() per request.
+    socket.flush();
     while (socket.bytesToWrite() > 0) {
         if (!socket.waitForBytesWritten(remaining(deadline))) {
             *error = deadline.hasExpired() ? tr("cannot send to the controller within the time-out")
@@ -185,7 +189,8 @@ bool TcpLink::write_request(const QByteArray& line, QDeadlineTimer deadline, QSt
 ControllerLink::Result TcpLink::read_reply(QByteArray* reply, QDeadlineTimer deadline, QString* error)
 {
     for (;;) {
-        input += socket.readAll();
+        if (socket.bytesAvailable() > 0)
+            input += socket.read(socket.bytesAvailable());
         const int end = input.indexOf('\n');
         if (end > MaxLineLength) {
             // Read whole, so the next reply is in step; too long all the same.

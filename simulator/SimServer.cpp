@@ -162,6 +162,8 @@ void SimServer::send(Client* client, const SimReply& reply)
         return;
     }
     client->socket->write(reply.line + '\n');
+    // Out now, not on the event loop's next pass: the client is waiting.
+    client->socket->flush();
 }
 
 void SimServer::drop(Client* client)

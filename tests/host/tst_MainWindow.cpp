@@ -41,7 +41,12 @@ private:
         modules.push_back(std::make_unique<RecordingModule>(name, &journal));
         return modules.back().get();
     }
-    QString label(const char* name) const { return window->findChild<QLabel*>(name)->text(); }
+    // After the posted updates: the round-trip count is drawn once per pass.
+    QString label(const char* name) const
+    {
+        QCoreApplication::sendPostedEvents();
+        return window->findChild<QLabel*>(name)->text();
+    }
     QStringList menu_bar() const { return HostHarness::texts(window->menuBar()->actions()); }
 
     QStringList journal;

@@ -10,8 +10,8 @@
 
 class QWidget;
 
-// Acts on a modal dialog once it runs: a test calls, before the blocking
-// exec() or update_and_exec(),
+// Acts on a modal dialog once it runs, for the tests and the benchmarks:
+// call, before the blocking exec() or update_and_exec(),
 //   ModalDialogHelper::when_active([&](QWidget* w) { ...; ModalDialogHelper::close(w); });
 // The action runs once, inside the dialog's own event loop, on the first
 // active modal widget that `match` accepts (any by default). Actions queue:
