@@ -10,6 +10,7 @@
 #include "SettingsCells.h"
 #include "module/ControllerText.h"
 #include "module/IOManager.h"
+#include "module/ListLimits.h"
 #include "module/VersionGate.h"
 #include "ui_InertialSettingsDlg.h"
 
@@ -86,7 +87,7 @@ QList<int> RadioChannels::available_channels_of(int number, const QString& ident
         return {};
     }
     QList<int> channels;
-    const int count = sane_count(reported);
+    const int count = ListLimits::bounded(reported);
     for (int k = 1; k <= count; ++k) {
         int channel = 0;
         if (io->get_int(&channel, "inertial transceiver_available_radio_channel %s t%.2d", line.constData(), k) != 0) {

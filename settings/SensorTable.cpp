@@ -9,6 +9,7 @@
 #include "WakeupModes.h"
 #include "module/ControllerText.h"
 #include "module/IOManager.h"
+#include "module/ListLimits.h"
 #include "module/SensorIdentity.h"
 #include "statusbar/BatteryBar.h"
 #include "statusbar/TemperatureBar.h"
@@ -42,7 +43,7 @@ bool SensorTable::read_count(int* count, const char* path, const QString& failur
         report(failure);
         return false;
     }
-    *count = sane_count(reported);
+    *count = ListLimits::bounded(reported);
     return true;
 }
 

@@ -27,8 +27,7 @@ public:
     // The reply of a query that returned `result`, or `fallback` after
     // reporting `message` when it failed.
     QString checked_text(int result, const char* reply, const QString& fallback, const QString& message);
-    // The length of a controller list, bounded to what two-digit indices
-    // reach; false, with 0, when the query failed and `failure` was reported.
+    // The length of a controller list, bounded to ListLimits; false, with 0, when the query failed and `failure` was reported.
     bool read_count(int* count, const char* path, const QString& failure);
     // The identity listed at `index` ("... d%.2d"); false when the query
     // failed and `failure` was reported. A short reply gives an invalid one.
