@@ -390,6 +390,7 @@ void InertialSettingsDlg::update_buttons()
         wakeup_modes->update_wakeup_combo(row, identity, present);
         radio_channels->update_sensor_channel(row, identity, present);
     }
+    sensor_table->fit_changed_columns();
 }
 
 void InertialSettingsDlg::update_sensors_not_present()
@@ -410,6 +411,7 @@ void InertialSettingsDlg::update_sensors_not_present()
             continue;
         all_done = sensor_table->set_present_status_of_sensor(row, identity) && all_done;
     }
+    sensor_table->fit_changed_columns();
     if (all_done)
         not_present_timer->stop();
 }

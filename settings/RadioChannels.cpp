@@ -120,9 +120,9 @@ void RadioChannels::update_sensor_channel(int row, QString identity, bool presen
     if (connection == QLatin1String("usb")) {
         d->sensor_table->remove_cell_widget(row, InertialSettingsDlg::ColChannel);
         QTableWidgetItem* item = d->sensor_table->ensure_item(row, InertialSettingsDlg::ColChannel);
-        item->setFlags(Qt::ItemIsEnabled);
+        d->sensor_table->write_flags(item, Qt::ItemIsEnabled);
         item->setTextAlignment(Qt::AlignCenter);
-        item->setText(tr("USB"));
+        d->sensor_table->write_text(item, tr("USB"));
         return;
     }
     // A controller that names the channel already answered; older ones are

@@ -45,6 +45,17 @@ public:
     int row_for_sensor(const QString& transceiver, const QString& identity);
     void fill_sensor_row(int row, const SensorIdentity& id, const QString& body, int index);
     QTableWidgetItem* ensure_item(int row, int column);
+    // Writes to a cell only what differs from what it shows: every write
+    // makes the view measure and paint again, and the periodic refresh
+    // mostly finds nothing new.
+    void write_text(QTableWidgetItem* item, const QString& text);
+    void write_flags(QTableWidgetItem* item, Qt::ItemFlags flags);
+    void write_icon(QTableWidgetItem* item, const QIcon& icon);
+    // A cell widget put into `column` may need a wider column.
+    void widened(int column);
+    // Fits the content-sized columns that a refresh changed to their
+    // contents again, once per refresh rather than once per cell.
+    void fit_changed_columns();
     void remove_cell_widget(int row, int column);
     QString sensor_identity_of_row(int row) const;
     bool set_present_status_of_sensor(int row, QString identity);
@@ -79,6 +90,8 @@ private:
     InertialSettingsDlg* d;
     Ui_InertialSettingsDlg* ui;
     IOManager* io;
+    // Bit per column whose contents changed since the last fit.
+    unsigned changed_columns = 0;
 };
 
 #endif // SENSORTABLE_H

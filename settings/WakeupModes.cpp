@@ -110,7 +110,7 @@ void WakeupModes::update_wakeup_combo(int row, QString identity, bool present)
 {
     auto* combo = qobject_cast<QComboBox*>(ui->tableWidget->cellWidget(row, InertialSettingsDlg::ColWakeupMode));
     if (!present) {
-        d->sensor_table->ensure_item(row, InertialSettingsDlg::ColWakeupMode)->setFlags(Qt::ItemIsSelectable);
+        d->sensor_table->write_flags(d->sensor_table->ensure_item(row, InertialSettingsDlg::ColWakeupMode), Qt::ItemIsSelectable);
         return;
     }
     if (combo) {
@@ -357,15 +357,18 @@ void WakeupModes::frequency_chosen(double value)
 
 void WakeupModes::update_frequency(int row, QString identity, bool present)
 {
-    auto* item = new QTableWidgetItem;
+    QString text;
     if (present && VersionGate::available(d->backend_versions, 1, 21)) {
         double frequency = 0.0;
         if (io->get_double(&frequency, "inertial sensor_output_frequency %s", ControllerText::latin(identity).constData()) != 0)
             report(tr("Error: Unable to get frequency of sensor %1").arg(row + 1));
         else if (frequency > 10.0 && std::isfinite(frequency))
-            item->setText(tr("%1 Hz").arg(frequency, 0, 'f', 0));
+            text = tr("%1 Hz").arg(frequency, 0, 'f', 0);
     }
+    // Shown, never edited: a fresh item's flags without editing.
+    static const Qt::ItemFlags shown = QTableWidgetItem().flags() & ~Qt::ItemIsEditable;
+    QTableWidgetItem* item = d->sensor_table->ensure_item(row, InertialSettingsDlg::ColFrequency);
+    d->sensor_table->write_text(item, text);
     item->setTextAlignment(Qt::AlignCenter);
-    item->setFlags(item->flags() & ~Qt::ItemIsEditable);
-    ui->tableWidget->setItem(row, InertialSettingsDlg::ColFrequency, item);
+    d->sensor_table->write_flags(item, shown);
 }
