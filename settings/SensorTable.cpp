@@ -135,9 +135,11 @@ void SensorTable::update_table()
 bool SensorTable::add_dongles()
 {
     transceiver_identities.clear();
+    transceiver_count = -1;
     int count = 0;
     if (!read_count(&count, "inertial number_of_transceivers", tr("Error: Unable to get number of dongles")))
         return false;
+    transceiver_count = count;
     for (int i = 1; i <= count; ++i) {
         SensorIdentity identity;
         const QString failure = tr("Error: Unable to get informations of dongle %1").arg(i);

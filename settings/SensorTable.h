@@ -79,6 +79,8 @@ public:
     QString getSensorVendorModelSerial(int row) const;
 
     QStringList transceiver_identities;
+    // What the last rebuild read as the number of transceivers; -1 unread.
+    int transceiver_count = -1;
     QList<InertialSettingsDlg::sensor> sensor_list;
     bool dummyDongleNeeded = false;
     bool rebuilding = false;
