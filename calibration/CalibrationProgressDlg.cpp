@@ -8,6 +8,7 @@
 #include "CountdownDlg.h"
 #include "module/ControllerText.h"
 #include "module/IOManager.h"
+#include "module/ListLimits.h"
 #include "module/VersionGate.h"
 #include "ui_CalibrationProgressDialog.h"
 
@@ -20,9 +21,8 @@ constexpr int StepChangePauseSeconds = 5;
 // A pause the raw query announces as 0 still gives the user a moment.
 constexpr int DefaultPauseSeconds = 5;
 // An absurd pause or step from the controller must not freeze the user in
-// a countdown or run the step index past its two digits.
+// a countdown or send the step index past any list the controller has.
 constexpr int MaxPauseSeconds = 3600;
-constexpr int MaxStep = 99;
 
 const QString ReflexScan = QStringLiteral("reflex_scan");
 const QString None = QStringLiteral("none");
@@ -121,7 +121,7 @@ void CalibrationProgressDlg::read_steps()
 {
     const char* t = type_line.constData();
     int steps = 1;
-    number_of_steps = io->get_int(&steps, "cal number_of_steps %s", t) == 0 ? qBound(1, steps, MaxStep) : 1;
+    number_of_steps = io->get_int(&steps, "cal number_of_steps %s", t) == 0 ? qBound(1, steps, ListLimits::MaxListLength) : 1;
     char reply[IOManager::ReplyCapacity] = "";
     io->get_string(reply, "cal step_pause %s s%02d", t, 1);
     const QStringList pause = words(reply);
@@ -275,7 +275,7 @@ int CalibrationProgressDlg::show_progress()
     const int step = parts.value(0).toInt(&step_read);
     const double fraction = parts.value(1).toDouble(&fraction_read);
     if (step_read && fraction_read && std::isfinite(fraction)) {
-        reported_step = qBound(1, step, MaxStep);
+        reported_step = qBound(1, step, ListLimits::MaxListLength);
         step_progress = fraction;
     }
     ui->progressBar_step->setValue(ControllerText::percent(step_progress));

@@ -15,6 +15,7 @@
 #include "module/ControllerText.h"
 #include "module/HybridBodyCheck.h"
 #include "module/IOManager.h"
+#include "module/ListLimits.h"
 #include "module/SensorIdentity.h"
 #include "module/VersionGate.h"
 #include "statusbar/TemperatureBar.h"
@@ -28,9 +29,6 @@ constexpr int RowHeight = 20;
 constexpr int CheckColumnWidth = 80;
 constexpr int MeasureIntervalMs = 200;
 constexpr int WarmupIntervalMs = 1000;
-// Bodies and sensors are numbered with two digits; a larger count is a
-// broken reply, and following it would freeze the GUI thread.
-constexpr int MaxListIndex = 99;
 // Below this mean warm fraction a gyroscope residual is not to be trusted.
 constexpr double WarmEnough = 0.95;
 
@@ -245,7 +243,7 @@ void InertialCalibrationDlg::update_table()
     int count = 0;
     if (io->get_int(&count, "standard number_of_bodies") != 0)
         return;
-    count = qMin(count, MaxListIndex);
+    count = ListLimits::bounded(count);
     for (int body = 1; body <= count; ++body) {
         const QString id = QStringLiteral("standard b%1").arg(body, 2, 10, QLatin1Char('0'));
         const QByteArray body_line = ControllerText::latin(id);

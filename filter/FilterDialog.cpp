@@ -8,14 +8,12 @@
 #include "FilterHelp.h"
 #include "module/ControllerText.h"
 #include "module/IOManager.h"
+#include "module/ListLimits.h"
 #include "module/VersionGate.h"
 #include "ui_FilterDialog.h"
 
 namespace {
 
-// Indices go out as two digits ("t07", "b12"); a count beyond that is a
-// broken reply, and looping over it would freeze the GUI thread.
-constexpr int MaxListIndex = 99;
 // The controller speaks of prediction in seconds, the user in whole
 // milliseconds. An absurd reply must not overflow the conversion.
 constexpr double MsPerSecond = 1000.0;
@@ -24,11 +22,6 @@ constexpr double MaxPredictionMs = 3600.0 * MsPerSecond;
 const QString Yes = QStringLiteral("yes");
 const QString No = QStringLiteral("no");
 const QString None = QStringLiteral("none");
-
-int sane_count(int count)
-{
-    return qBound(0, count, MaxListIndex);
-}
 
 int to_ms(double seconds)
 {
@@ -197,7 +190,7 @@ void FilterDialog::update_comboBox_body(int type, int row)
         return;
     }
     char reply[IOManager::ReplyCapacity];
-    for (int b = 1; b <= sane_count(count); ++b) {
+    for (int b = 1; b <= ListLimits::bounded(count); ++b) {
         bool calibrated = false;
         if (io->get_bool(&calibrated, "body calibrated %s b%.2d", kind, b) != 0) {
             report(tr("Error: Unable to get calibration info of body"));
@@ -302,7 +295,7 @@ void FilterDialog::fill_choices(QComboBox* combo, const ChoiceQueries& queries, 
     }
     const QByteArray address = ControllerText::latin(body);
     char reply[IOManager::ReplyCapacity];
-    for (int t = 1; t <= sane_count(count); ++t) {
+    for (int t = 1; t <= ListLimits::bounded(count); ++t) {
         if (io->get_string(reply, queries.id, t) != 0) {
             report(tr(queries.id_failure));
             continue;

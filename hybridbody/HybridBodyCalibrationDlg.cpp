@@ -10,6 +10,7 @@
 #include "module/ControllerText.h"
 #include "module/HybridBodyCheck.h"
 #include "module/IOManager.h"
+#include "module/ListLimits.h"
 #include "module/SensorIdentity.h"
 #include "module/VersionGate.h"
 #include "ui_HybridBodyDialog.h"
@@ -22,8 +23,6 @@ const QString None = QStringLiteral("none");
 const QString Err = QStringLiteral("err");
 const QString Wait = QStringLiteral("wait");
 const QString CommandDone = QStringLiteral("norvane ok");
-// Body numbers are two digits in every query.
-constexpr int MaxBodies = 99;
 
 QString body_id(int number)
 {
@@ -214,7 +213,7 @@ void HybridBodyCalibrationDlg::update_comboBox(bool fill)
         report(tr("Error: Unable to get number of bodies"));
         return;
     }
-    count = qMin(count, MaxBodies);
+    count = ListLimits::bounded(count);
     for (int number = 1; number <= count; ++number) {
         SensorInfo info;
         info.body_id = body_id(number);

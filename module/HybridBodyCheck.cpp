@@ -4,20 +4,14 @@
 
 #include "ControllerText.h"
 #include "IOManager.h"
-
-namespace {
-
-// Sensor indices are two digits in every query.
-constexpr int MaxSensors = 99;
-
-} // namespace
+#include "ListLimits.h"
 
 bool HybridBodyCheck::available(IOManager* io, QWidget* parent)
 {
     int count = 0;
     if (io->get_int(&count, "inertial number_of_sensors") != 0)
         count = 0;
-    count = qMin(count, MaxSensors);
+    count = ListLimits::bounded(count);
     for (int i = 1; i <= count; ++i) {
         char identity[IOManager::ReplyCapacity] = "";
         if (io->get_string(identity, "inertial sensor d%.2d", i) != 0) {

@@ -9,16 +9,14 @@
 #include "filter/FilterDialog.h"
 #include "module/ControllerText.h"
 #include "module/IOManager.h"
+#include "module/ListLimits.h"
 #include "module/SensorIdentity.h"
 #include "ui_InertialSettingsDlg.h"
 
 namespace {
 
 constexpr int RowHeight = 20;
-// Bodies go out as two digits; a larger count is a broken reply.
 constexpr int DefaultMaxBodies = 40;
-constexpr int LargestBodyCount = 99;
-constexpr int LargestSensorCount = 99;
 
 const QString None = QStringLiteral("none");
 const QString Standard = QStringLiteral("standard");
@@ -146,7 +144,7 @@ void BodyAssignmentPage::update_map_body_sensor()
     int count = 0;
     if (io->get_int(&count, "inertial number_of_sensors") != 0)
         return;
-    count = qBound(0, count, LargestSensorCount);
+    count = ListLimits::bounded(count);
     char reply[IOManager::ReplyCapacity];
     for (int i = 1; i <= count; ++i) {
         if (io->get_string(reply, "inertial sensor d%.2d", i) != 0)
@@ -205,7 +203,7 @@ void BodyAssignmentPage::update_tableWidget_sensors()
         report(tr("Error: Unable to get number of inertial sensors"));
         return;
     }
-    count = qBound(0, count, LargestSensorCount);
+    count = ListLimits::bounded(count);
     char reply[IOManager::ReplyCapacity];
     for (int i = 1; i <= count; ++i) {
         // Rows stay in the controller's order: select names the sensor by it.
@@ -252,7 +250,7 @@ void BodyAssignmentPage::storeMaxNumberOfBodies()
         report(tr("Error: Unable to get maximum number of bodies"));
         maximum = DefaultMaxBodies;
     }
-    max_bodies = qBound(0, maximum, LargestBodyCount);
+    max_bodies = ListLimits::bounded(maximum);
     const QSignalBlocker quiet(ui->spinBox_numBodies);
     ui->spinBox_numBodies->setMaximum(max_bodies);
 }

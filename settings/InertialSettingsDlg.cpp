@@ -194,7 +194,8 @@ int InertialSettingsDlg::update_and_exec()
         wakeup_modes->get_all_wakeup_modes();
         sensor_table->update_table();
         wakeup_modes->update_wakeup_and_frequency();
-        wakeup_modes->set_frequency_limit();
+        if (!wakeup_modes->limits_read)
+            wakeup_modes->set_frequency_limit();
         disable_sensor_controls();
         ui->tableWidget->setEnabled(false);
         return run_without_body_pages();
@@ -222,7 +223,8 @@ int InertialSettingsDlg::update_and_exec()
     ui->progressBar->show();
 
     // Sensors on cable need no transceiver: the page stays usable for them.
-    transceiver_present = isTransceiverPresent();
+    // A table rebuilt in full has just read the transceiver count.
+    transceiver_present = table_stale ? isTransceiverPresent() : sensor_table->transceiver_count >= 1;
     scan_allowed = transceiver_present;
     ui->pushButton_addSensor->setEnabled(true);
     ui->comboBox_mode->setEnabled(true);
@@ -230,7 +232,9 @@ int InertialSettingsDlg::update_and_exec()
     ui->tableWidget->setEnabled(true);
     ui->pushButton_scanAvailableChannels->setEnabled(scan_allowed);
     if (transceiver_present) {
-        wakeup_modes->set_frequency_limit();
+        // The page's refresh above read the same limits already.
+        if (!wakeup_modes->limits_read)
+            wakeup_modes->set_frequency_limit();
         first_refresh_timer->start();
         button_timer->start();
         if (is_warmup_active()) {
@@ -390,6 +394,7 @@ void InertialSettingsDlg::update_buttons()
         wakeup_modes->update_wakeup_combo(row, identity, present);
         radio_channels->update_sensor_channel(row, identity, present);
     }
+    sensor_table->fit_changed_columns();
 }
 
 void InertialSettingsDlg::update_sensors_not_present()
@@ -410,6 +415,7 @@ void InertialSettingsDlg::update_sensors_not_present()
             continue;
         all_done = sensor_table->set_present_status_of_sensor(row, identity) && all_done;
     }
+    sensor_table->fit_changed_columns();
     if (all_done)
         not_present_timer->stop();
 }

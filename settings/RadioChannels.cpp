@@ -10,6 +10,7 @@
 #include "SettingsCells.h"
 #include "module/ControllerText.h"
 #include "module/IOManager.h"
+#include "module/ListLimits.h"
 #include "module/VersionGate.h"
 #include "ui_InertialSettingsDlg.h"
 
@@ -86,7 +87,7 @@ QList<int> RadioChannels::available_channels_of(int number, const QString& ident
         return {};
     }
     QList<int> channels;
-    const int count = sane_count(reported);
+    const int count = ListLimits::bounded(reported);
     for (int k = 1; k <= count; ++k) {
         int channel = 0;
         if (io->get_int(&channel, "inertial transceiver_available_radio_channel %s t%.2d", line.constData(), k) != 0) {
@@ -119,9 +120,9 @@ void RadioChannels::update_sensor_channel(int row, QString identity, bool presen
     if (connection == QLatin1String("usb")) {
         d->sensor_table->remove_cell_widget(row, InertialSettingsDlg::ColChannel);
         QTableWidgetItem* item = d->sensor_table->ensure_item(row, InertialSettingsDlg::ColChannel);
-        item->setFlags(Qt::ItemIsEnabled);
+        d->sensor_table->write_flags(item, Qt::ItemIsEnabled);
         item->setTextAlignment(Qt::AlignCenter);
-        item->setText(tr("USB"));
+        d->sensor_table->write_text(item, tr("USB"));
         return;
     }
     // A controller that names the channel already answered; older ones are

@@ -9,6 +9,7 @@
 #include "WakeupModes.h"
 #include "module/ControllerText.h"
 #include "module/IOManager.h"
+#include "module/ListLimits.h"
 #include "module/SensorIdentity.h"
 #include "statusbar/BatteryBar.h"
 #include "statusbar/TemperatureBar.h"
@@ -42,7 +43,7 @@ bool SensorTable::read_count(int* count, const char* path, const QString& failur
         report(failure);
         return false;
     }
-    *count = sane_count(reported);
+    *count = ListLimits::bounded(reported);
     return true;
 }
 
@@ -65,6 +66,7 @@ void SensorTable::refresh_all_sensor_rows()
         if (!identity.isEmpty())
             set_present_status_of_sensor(row, identity);
     }
+    fit_changed_columns();
 }
 
 void SensorTable::setup_table()
@@ -78,13 +80,13 @@ void SensorTable::setup_table()
                                       tr("Battery"), tr("Temperature"), tr("Frequency"),
                                       tr("Cal."), tr("Delete")});
     QHeaderView* header = table->horizontalHeader();
-    const QHeaderView::ResizeMode modes[InertialSettingsDlg::ColumnCount] = {
-        QHeaderView::Fixed,            QHeaderView::ResizeToContents, QHeaderView::ResizeToContents,
-        QHeaderView::Stretch,          QHeaderView::ResizeToContents, QHeaderView::Fixed,
-        QHeaderView::Fixed,            QHeaderView::ResizeToContents, QHeaderView::ResizeToContents,
-        QHeaderView::ResizeToContents, QHeaderView::Fixed,            QHeaderView::ResizeToContents};
+    // The columns sized by their contents are fitted by us, after a rebuild
+    // and after a refresh that changed them (fit_changed_columns): left to
+    // the header, every changed cell would measure its whole column again,
+    // which grows with the square of the number of sensors.
     for (int column = 0; column < InertialSettingsDlg::ColumnCount; ++column)
-        header->setSectionResizeMode(column, modes[column]);
+        header->setSectionResizeMode(column, column == InertialSettingsDlg::ColName ? QHeaderView::Stretch
+                                                                                   : QHeaderView::Fixed);
     header->setSectionsClickable(false);
     header->setStretchLastSection(false);
     table->setColumnHidden(InertialSettingsDlg::ColVendor, true);
@@ -124,6 +126,7 @@ void SensorTable::update_table()
 
     table->resizeColumnsToContents();
     table->setColumnWidth(InertialSettingsDlg::ColDeviceId, table->columnWidth(InertialSettingsDlg::ColDeviceId) + DeviceIdPadding);
+    changed_columns = 0;
     // A rebuild cut short stays stale, so that the next visit tries again.
     if (complete)
         d->table_stale = false;
@@ -132,9 +135,11 @@ void SensorTable::update_table()
 bool SensorTable::add_dongles()
 {
     transceiver_identities.clear();
+    transceiver_count = -1;
     int count = 0;
     if (!read_count(&count, "inertial number_of_transceivers", tr("Error: Unable to get number of dongles")))
         return false;
+    transceiver_count = count;
     for (int i = 1; i <= count; ++i) {
         SensorIdentity identity;
         const QString failure = tr("Error: Unable to get informations of dongle %1").arg(i);
@@ -368,6 +373,50 @@ QTableWidgetItem* SensorTable::ensure_item(int row, int column)
     return item;
 }
 
+void SensorTable::write_text(QTableWidgetItem* item, const QString& text)
+{
+    if (item->text() == text)
+        return;
+    item->setText(text);
+    widened(item->column());
+}
+
+void SensorTable::write_flags(QTableWidgetItem* item, Qt::ItemFlags flags)
+{
+    if (item->flags() != flags)
+        item->setFlags(flags);
+}
+
+void SensorTable::write_icon(QTableWidgetItem* item, const QIcon& icon)
+{
+    if (item->icon().cacheKey() == icon.cacheKey())
+        return;
+    item->setIcon(icon);
+    widened(item->column());
+}
+
+void SensorTable::widened(int column)
+{
+    if (column >= 0 && column < InertialSettingsDlg::ColumnCount)
+        changed_columns |= 1u << column;
+}
+
+void SensorTable::fit_changed_columns()
+{
+    // Only the columns that follow their contents; the others keep the
+    // width the rebuild gave them.
+    static const int content_sized[] = {InertialSettingsDlg::ColVendor,      InertialSettingsDlg::ColModel,
+                                        InertialSettingsDlg::ColVersion,     InertialSettingsDlg::ColBattery,
+                                        InertialSettingsDlg::ColTemperature, InertialSettingsDlg::ColFrequency,
+                                        InertialSettingsDlg::ColDelete};
+    if (rebuilding || changed_columns == 0)
+        return;
+    for (int column : content_sized)
+        if (changed_columns & (1u << column))
+            ui->tableWidget->resizeColumnToContents(column);
+    changed_columns = 0;
+}
+
 void SensorTable::remove_cell_widget(int row, int column)
 {
     if (ui->tableWidget->cellWidget(row, column))
@@ -397,35 +446,37 @@ bool SensorTable::set_present_status_of_sensor(int row, QString identity)
 
 void SensorTable::update_four_columns(int row, QString /*identity*/, bool present)
 {
-    ensure_item(row, InertialSettingsDlg::ColDeviceId)->setIcon(present ? d->icon_inertial_en : d->icon_inertial_dis);
+    write_icon(ensure_item(row, InertialSettingsDlg::ColDeviceId), present ? d->icon_inertial_en : d->icon_inertial_dis);
     for (int column = InertialSettingsDlg::ColDeviceId; column <= InertialSettingsDlg::ColName; ++column) {
         QTableWidgetItem* item = ensure_item(row, column);
         Qt::ItemFlags flags = Qt::ItemIsSelectable;
         if (present)
             flags = column == InertialSettingsDlg::ColName ? Qt::ItemFlags(item->data(NameFlagsRole).toInt())
                                       : Qt::ItemIsSelectable | Qt::ItemIsEnabled;
-        item->setFlags(flags);
+        write_flags(item, flags);
     }
 }
 
 void SensorTable::update_firmware(int row, QString identity, bool present)
 {
     if (!present) {
-        ensure_item(row, InertialSettingsDlg::ColVersion)->setFlags(Qt::ItemIsSelectable);
+        write_flags(ensure_item(row, InertialSettingsDlg::ColVersion), Qt::ItemIsSelectable);
         return;
     }
     char reply[IOManager::ReplyCapacity];
     const QString version = checked_text(
         io->get_string(reply, "inertial sensor_version %s", ControllerText::latin(identity).constData()), reply,
         QStringLiteral("v0.0.0"), tr("Error: Unable to get firmware version of sensor"));
-    ui->tableWidget->setItem(row, InertialSettingsDlg::ColVersion, text_item(ControllerText::withoutSingleQuotes(version), Qt::ItemIsEnabled));
+    QTableWidgetItem* item = ensure_item(row, InertialSettingsDlg::ColVersion);
+    write_text(item, ControllerText::withoutSingleQuotes(version));
+    write_flags(item, Qt::ItemIsEnabled);
 }
 
 void SensorTable::update_battery(int row, QString identity, bool present)
 {
     if (!present) {
         // The last charge stays on show: it is what the sensor had when it left.
-        ensure_item(row, InertialSettingsDlg::ColBattery)->setFlags(Qt::ItemIsEnabled);
+        write_flags(ensure_item(row, InertialSettingsDlg::ColBattery), Qt::ItemIsEnabled);
         return;
     }
     double charge = -1.0;
@@ -440,6 +491,7 @@ void SensorTable::update_battery(int row, QString identity, bool present)
         bar = new BatteryBar;
         bar->setMaximumWidth(ui->tableWidget->columnWidth(InertialSettingsDlg::ColBattery));
         ui->tableWidget->setCellWidget(row, InertialSettingsDlg::ColBattery, bar);
+        widened(InertialSettingsDlg::ColBattery);
     }
     bar->setValue(charge);
 }
@@ -450,11 +502,11 @@ void SensorTable::update_temperature(int row, QString identity, bool present)
     if (!present) {
         // A bar would keep showing the last reading of a sensor that is gone.
         remove_cell_widget(row, InertialSettingsDlg::ColTemperature);
-        item->setText(not_present_text());
+        write_text(item, not_present_text());
         item->setTextAlignment(Qt::AlignCenter);
         return;
     }
-    item->setText(QString());
+    write_text(item, QString());
     // Two numbers: the temperature in degrees Celsius and the operating
     // temperature at which the sensor counts as warm. The bar fills towards
     // the latter and turns green close to it.
@@ -470,6 +522,7 @@ void SensorTable::update_temperature(int row, QString identity, bool present)
         bar = new TemperatureBar;
         bar->setMaximumWidth(ui->tableWidget->columnWidth(InertialSettingsDlg::ColTemperature));
         ui->tableWidget->setCellWidget(row, InertialSettingsDlg::ColTemperature, bar);
+        widened(InertialSettingsDlg::ColTemperature);
     }
     bar->setTemperature(reading[0]);
     const double warm = reading[1] > 0.0 && std::isfinite(reading[1]) ? reading[0] / reading[1] : 0.0;
@@ -480,16 +533,16 @@ void SensorTable::update_sensor_calibration(int row, QString identity, bool /*pr
 {
     const int status = getSensorCalibrationStatus(ControllerText::latin(identity).constData());
     QTableWidgetItem* item = ensure_item(row, InertialSettingsDlg::ColCalibration);
-    item->setText(QString());
+    write_text(item, QString());
     if (status == 1) {
-        item->setIcon(d->icon_green);
-        item->setFlags(Qt::ItemIsEnabled);
+        write_icon(item, d->icon_green);
+        write_flags(item, Qt::ItemIsEnabled);
     } else if (status == 0) {
-        item->setIcon(d->icon_yellow);
-        item->setFlags(Qt::ItemIsEnabled);
+        write_icon(item, d->icon_yellow);
+        write_flags(item, Qt::ItemIsEnabled);
     } else {
-        item->setIcon(d->icon_red);
-        item->setFlags(Qt::NoItemFlags);
+        write_icon(item, d->icon_red);
+        write_flags(item, Qt::NoItemFlags);
     }
 }
 

@@ -27,8 +27,7 @@ public:
     // The reply of a query that returned `result`, or `fallback` after
     // reporting `message` when it failed.
     QString checked_text(int result, const char* reply, const QString& fallback, const QString& message);
-    // The length of a controller list, bounded to what two-digit indices
-    // reach; false, with 0, when the query failed and `failure` was reported.
+    // The length of a controller list, bounded to ListLimits; false, with 0, when the query failed and `failure` was reported.
     bool read_count(int* count, const char* path, const QString& failure);
     // The identity listed at `index` ("... d%.2d"); false when the query
     // failed and `failure` was reported. A short reply gives an invalid one.
@@ -46,6 +45,17 @@ public:
     int row_for_sensor(const QString& transceiver, const QString& identity);
     void fill_sensor_row(int row, const SensorIdentity& id, const QString& body, int index);
     QTableWidgetItem* ensure_item(int row, int column);
+    // Writes to a cell only what differs from what it shows: every write
+    // makes the view measure and paint again, and the periodic refresh
+    // mostly finds nothing new.
+    void write_text(QTableWidgetItem* item, const QString& text);
+    void write_flags(QTableWidgetItem* item, Qt::ItemFlags flags);
+    void write_icon(QTableWidgetItem* item, const QIcon& icon);
+    // A cell widget put into `column` may need a wider column.
+    void widened(int column);
+    // Fits the content-sized columns that a refresh changed to their
+    // contents again, once per refresh rather than once per cell.
+    void fit_changed_columns();
     void remove_cell_widget(int row, int column);
     QString sensor_identity_of_row(int row) const;
     bool set_present_status_of_sensor(int row, QString identity);
@@ -69,6 +79,8 @@ public:
     QString getSensorVendorModelSerial(int row) const;
 
     QStringList transceiver_identities;
+    // What the last rebuild read as the number of transceivers; -1 unread.
+    int transceiver_count = -1;
     QList<InertialSettingsDlg::sensor> sensor_list;
     bool dummyDongleNeeded = false;
     bool rebuilding = false;
@@ -80,6 +92,8 @@ private:
     InertialSettingsDlg* d;
     Ui_InertialSettingsDlg* ui;
     IOManager* io;
+    // Bit per column whose contents changed since the last fit.
+    unsigned changed_columns = 0;
 };
 
 #endif // SENSORTABLE_H

@@ -16,11 +16,6 @@ const QString TapAndRadio = WakeOnTap + QLatin1Char(' ') + WakeByRadio;
 const char* const ModeProperty = "wakeupMode";
 const QString CommandDone = QStringLiteral("norvane ok");
 
-int sane_count(int count)
-{
-    return qBound(0, count, MaxListIndex);
-}
-
 QIcon host_or_own_icon(const QString& host_path, const QString& own_path)
 {
     return QIcon(QFile::exists(host_path) ? host_path : own_path);

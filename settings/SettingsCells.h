@@ -12,10 +12,6 @@ class QTableWidgetItem;
 // the few ways they make its cells.
 namespace SettingsCells {
 
-// List indices go out as two digits ("d07", "t03"); a count beyond that is
-// a broken reply, and looping over it would freeze the GUI thread.
-constexpr int MaxListIndex = 99;
-
 constexpr int RowHeight = 20;
 constexpr int DeviceIdPadding = 15;
 // Warm-up, wake-up modes and radio channels: the controller answers these slowly.
@@ -39,7 +35,6 @@ extern const QString TapAndRadio;
 extern const char* const ModeProperty;
 extern const QString CommandDone;
 
-int sane_count(int count);
 // The status lamps belong to the host; a host without them still gets the
 // module's own.
 QIcon host_or_own_icon(const QString& host_path, const QString& own_path);

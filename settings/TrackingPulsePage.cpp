@@ -6,6 +6,7 @@
 #include "module/BackendVersions.h"
 #include "module/ControllerText.h"
 #include "module/IOManager.h"
+#include "module/ListLimits.h"
 #include "module/SensorIdentity.h"
 #include "module/VersionGate.h"
 #include "ui_InertialSettingsDlg.h"
@@ -18,7 +19,6 @@ constexpr double HighestFrequency = 1000.0;
 constexpr double HighestFrameFrequency = 400.0;
 constexpr double CameraFallback = 60.0;
 constexpr double SensorFallback = 100.0;
-constexpr int LargestSensorCount = 99;
 
 const QString Cameras = QStringLiteral("synchronous_cameras");
 const QString Sensor = QStringLiteral("inertial_sensor");
@@ -130,7 +130,7 @@ void TrackingPulsePage::update_comboBox_inertialSensor(bool inertial_available)
         count = 0;
     }
     ui->comboBox_inertialSensor->clear();
-    count = qBound(0, count, LargestSensorCount);
+    count = ListLimits::bounded(count);
     char reply[IOManager::ReplyCapacity];
     for (int i = 1; i <= count; ++i) {
         if (io->get_string(reply, "inertial sensor d%.2d", i) != 0) {

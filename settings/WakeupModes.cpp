@@ -1,6 +1,7 @@
 #include "WakeupModes.h"
 
 #include <QPointer>
+#include <QTimer>
 
 #include <cmath>
 
@@ -32,6 +33,29 @@ void WakeupModes::report(const QString& text) const
     ControllerText::report(io, text);
 }
 
+int WakeupModes::recalled(QString* answer, const QString& identity, const QString& mode)
+{
+    const QString key = mode.isNull() ? identity : identity + QLatin1Char('\n') + mode;
+    const auto known = answers.constFind(key);
+    if (known != answers.cend()) {
+        *answer = *known;
+        return 0;
+    }
+    char reply[IOManager::ReplyCapacity];
+    const QByteArray line = ControllerText::latin(identity);
+    const int result = mode.isNull()
+                           ? io->get_string(reply, "inertial sensor_wakeup_mode %s", line.constData())
+                           : io->get_string(reply, "inertial sensor_wakeup_mode_available %s %s", line.constData(),
+                                            ControllerText::latin(mode).constData());
+    if (result != 0)
+        return result;
+    *answer = ControllerText::reply(reply);
+    if (answers.isEmpty())
+        QTimer::singleShot(0, d, [this] { answers.clear(); });
+    answers.insert(key, *answer);
+    return 0;
+}
+
 void WakeupModes::get_all_wakeup_modes()
 {
     all_wakeup_modes.clear();
@@ -58,27 +82,25 @@ void WakeupModes::get_all_wakeup_modes()
 
 void WakeupModes::get_available_wakeup_modes_of_sensor(QString identity, QComboBox* combo)
 {
-    const QByteArray line = ControllerText::latin(identity);
     for (auto mode = all_wakeup_modes.cbegin(); mode != all_wakeup_modes.cend(); ++mode) {
-        char reply[IOManager::ReplyCapacity];
-        if (io->get_string(reply, "inertial sensor_wakeup_mode_available %s %s", line.constData(),
-                           ControllerText::latin(mode.key()).constData()) != 0) {
+        QString available;
+        if (recalled(&available, identity, mode.key()) != 0) {
             report(tr("Error: Unable to get available wakeup mode of sensor %1").arg(identity));
             continue;
         }
-        if (ControllerText::reply(reply) == Yes && combo)
+        if (available == Yes && combo)
             combo->addItem(mode.value(), identity + QLatin1Char(' ') + mode.key());
     }
 }
 
 QString WakeupModes::get_wakeup_modeID_of_sensor(QString identity)
 {
-    char reply[IOManager::ReplyCapacity];
-    if (io->get_string(reply, "inertial sensor_wakeup_mode %s", ControllerText::latin(identity).constData()) != 0) {
+    QString mode;
+    if (recalled(&mode, identity) != 0) {
         report(tr("Error: Unable to get wakeup mode of sensor %1").arg(identity));
         return QString();
     }
-    return ControllerText::reply(reply).trimmed();
+    return mode.trimmed();
 }
 
 void WakeupModes::update_available_wakeup_modes()
@@ -91,13 +113,12 @@ void WakeupModes::update_available_wakeup_modes()
         if (!active.isEmpty())
             wakeup_mode_of_sensor.insert(identity, active);
         for (auto mode = all_wakeup_modes.cbegin(); mode != all_wakeup_modes.cend(); ++mode) {
-            char reply[IOManager::ReplyCapacity];
-            if (io->get_string(reply, "inertial sensor_wakeup_mode_available %s %s",
-                               ControllerText::latin(identity).constData(), ControllerText::latin(mode.key()).constData()) != 0) {
+            QString available;
+            if (recalled(&available, identity, mode.key()) != 0) {
                 report(tr("Error: Unable to get available wakeup mode of sensor "));
                 continue;
             }
-            if (ControllerText::reply(reply) != Yes)
+            if (available != Yes)
                 continue;
             QStringList& offering = sensors_of_wakeup_mode[mode.key()];
             if (!offering.contains(identity))
@@ -110,7 +131,7 @@ void WakeupModes::update_wakeup_combo(int row, QString identity, bool present)
 {
     auto* combo = qobject_cast<QComboBox*>(ui->tableWidget->cellWidget(row, InertialSettingsDlg::ColWakeupMode));
     if (!present) {
-        d->sensor_table->ensure_item(row, InertialSettingsDlg::ColWakeupMode)->setFlags(Qt::ItemIsSelectable);
+        d->sensor_table->write_flags(d->sensor_table->ensure_item(row, InertialSettingsDlg::ColWakeupMode), Qt::ItemIsSelectable);
         return;
     }
     if (combo) {
@@ -266,6 +287,7 @@ void WakeupModes::page_mode_chosen(const QString& text)
 
 int WakeupModes::set_sensor_wakeup_mode(const QString& identity, QString mode)
 {
+    answers.clear();
     const QByteArray line = ControllerText::latin(identity);
     io->set_timeout(false, SlowAnswerTimeoutMs, true);
     if (io->set_value("inertial sensor_wakeup_mode %s %s", line.constData(), ControllerText::latin(mode).constData()) != 0) {
@@ -285,11 +307,15 @@ int WakeupModes::set_sensor_wakeup_mode(const QString& identity, QString mode)
 void WakeupModes::update_wakeup_and_frequency()
 {
     QString range = QStringLiteral("1.0 1000.0");
+    bool answered = false;
     if (VersionGate::available(d->backend_versions, 1, 12)) {
         char reply[IOManager::ReplyCapacity];
-        range = d->sensor_table->checked_text(io->get_string(reply, "inertial limit frequency"), reply, range,
+        const int result = io->get_string(reply, "inertial limit frequency");
+        answered = result == 0;
+        range = d->sensor_table->checked_text(result, reply, range,
                              tr("Error: Unable to get minimum maximum range of the inertial frequency"));
     }
+    limits_read = false;
     double minimum = 1.0;
     double maximum = 1000.0;
     const QStringList fields = range.simplified().split(QLatin1Char(' '));
@@ -301,6 +327,7 @@ void WakeupModes::update_wakeup_and_frequency()
         if (min_ok && max_ok && std::isfinite(low) && std::isfinite(high) && low <= high) {
             minimum = low;
             maximum = high;
+            limits_read = answered;
         }
     }
 
@@ -357,15 +384,18 @@ void WakeupModes::frequency_chosen(double value)
 
 void WakeupModes::update_frequency(int row, QString identity, bool present)
 {
-    auto* item = new QTableWidgetItem;
+    QString text;
     if (present && VersionGate::available(d->backend_versions, 1, 21)) {
         double frequency = 0.0;
         if (io->get_double(&frequency, "inertial sensor_output_frequency %s", ControllerText::latin(identity).constData()) != 0)
             report(tr("Error: Unable to get frequency of sensor %1").arg(row + 1));
         else if (frequency > 10.0 && std::isfinite(frequency))
-            item->setText(tr("%1 Hz").arg(frequency, 0, 'f', 0));
+            text = tr("%1 Hz").arg(frequency, 0, 'f', 0);
     }
+    // Shown, never edited: a fresh item's flags without editing.
+    static const Qt::ItemFlags shown = QTableWidgetItem().flags() & ~Qt::ItemIsEditable;
+    QTableWidgetItem* item = d->sensor_table->ensure_item(row, InertialSettingsDlg::ColFrequency);
+    d->sensor_table->write_text(item, text);
     item->setTextAlignment(Qt::AlignCenter);
-    item->setFlags(item->flags() & ~Qt::ItemIsEditable);
-    ui->tableWidget->setItem(row, InertialSettingsDlg::ColFrequency, item);
+    d->sensor_table->write_flags(item, shown);
 }

@@ -2,6 +2,7 @@
 #define WAKEUPMODES_H
 
 #include <QCoreApplication>
+#include <QHash>
 #include <QMap>
 #include <QString>
 #include <QStringList>
@@ -44,6 +45,9 @@ public:
     void set_frequency_range(double minimum, double maximum);
     void frequency_chosen(double value);
     void update_frequency(int row, QString identity, bool present);
+    // True when the last update_wakeup_and_frequency() took the limits
+    // from the controller; set_frequency_limit() would only ask again.
+    bool limits_read = false;
 
     int number_of_wakeup_modes = 0;
     QMap<QString, QString> all_wakeup_modes;           // mode id -> description
@@ -55,6 +59,15 @@ public:
 
 private:
     void report(const QString& text) const;
+    // Asks "inertial sensor_wakeup_mode IDENTITY" or, with a mode,
+    // "inertial sensor_wakeup_mode_available IDENTITY MODE", unless the
+    // controller answered it during this action: rebuilding the table asks
+    // every sensor which modes it offers and runs, and the page's mode combo
+    // needs the same moments later. Answers are forgotten once control is
+    // back in the event loop, and whenever a mode is set.
+    int recalled(QString* answer, const QString& identity, const QString& mode = QString());
+
+    QHash<QString, QString> answers;
 
     InertialSettingsDlg* d;
     Ui_InertialSettingsDlg* ui;

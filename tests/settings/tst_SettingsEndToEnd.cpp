@@ -26,6 +26,7 @@ private slots:
     void wakeupModesReachTheSensors();
     void deletedSensorIsGone();
     void bodiesAndPulseReachTheController();
+    void hundredthSensorIsListedAndWorks();
 
 private:
     // Opens "In&ertial Sensor", runs `inside` on its table, leaves by Exit.
@@ -127,6 +128,23 @@ void tst_SettingsEndToEnd::deletedSensorIsGone()
     QCOMPARE(ids, (QStringList{"70011", "10231", "70012", "10234", "10233", "cable connected:", "10235"}));
     QCOMPARE(ask("inertial number_of_sensors") + ' ' + ask("body inertial_sensor standard b02") + ' '
                  + ask("standard number_of_bodies"), QByteArray("4 none 6"));
+}
+
+void tst_SettingsEndToEnd::hundredthSensorIsListedAndWorks()
+{
+    HostHarness::Options options;
+    options.plugin_file = QStringLiteral(PLUGIN_FILE);
+    options.scenario_file = QStringLiteral(SCENARIO_DIR "/hundred_sensors.json");
+    host.reset();   // one host at a time holds the plug-in
+    host = std::make_unique<HostHarness>(options);
+    QVERIFY2(host->ok(), qPrintable(host->error()));
+    startup = host->messages();
+    open([&](QTableWidget* table) {
+        const QList<QTableWidgetItem*> found = table->findItems("10399", Qt::MatchExactly);   // "inertial sensor d100"
+        if (!found.isEmpty())
+            choose(qobject_cast<QComboBox*>(table->cellWidget(found.first()->row(), 6)), "wake on tap");
+    });
+    QCOMPARE(ask("inertial sensor_wakeup_mode NRV IMU3 '10399'"), QByteArray("'wm_tap'"));
 }
 
 QTEST_MAIN(tst_SettingsEndToEnd)
