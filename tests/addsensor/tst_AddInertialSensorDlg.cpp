@@ -10,11 +10,9 @@
 
 #include <functional>
 
-#include "FakeController.h"
-#include "ModalDialogHelper.h"
+#include "DialogFixture.h"
 #include "TypicalSystem.h"
 #include "addsensor/AddInertialSensorDlg.h"
-#include "module/BackendVersions.h"
 #include "settings/ChannelComboBox.h"
 
 namespace {
@@ -29,13 +27,13 @@ const QByteArray Add8 = "norvane inertial add_sensor NRV IMU6 'C0008' 35";
 // hears two new sensors (S0007, C0008) and a paired one (S0001) on channel
 // 35: scanning in each mode one channel a tick, what stops a scan, and
 // adding the accepted sensors to free bodies.
-class tst_AddInertialSensorDlg : public QObject
+class tst_AddInertialSensorDlg : public QObject, DialogFixture
 {
     Q_OBJECT
 
 private slots:
     void init();
-    void cleanup();
+    void cleanup() { finish(); }
     void scanModes_data();
     void scanModes();
     void usbScanAsksInOrder();
@@ -62,19 +60,13 @@ private:
     QStringList rows() const;
     void answer_box(int button);
 
-    FakeController* fake = nullptr;
-    BackendVersions versions;
-    QDialog* parent = nullptr;
     AddInertialSensorDlg* dialog = nullptr;
     QString box;
 };
 
 void tst_AddInertialSensorDlg::init()
 {
-    fake = new FakeController;
-    versions = BackendVersions();
-    versions.major = 1;
-    versions.minor = 21;
+    start();
     TypicalSystem().install(*fake);
     fake->set_stateful(true);
     for (const QByteArray setting : {"inertial number_of_scan_channels 1", "inertial number_of_scan_channels 0",
@@ -88,17 +80,7 @@ void tst_AddInertialSensorDlg::init()
     fake->reply("inertial scanned_sensor d02", "NRV IMU9 'S0001' 35");
     fake->reply("inertial scanned_sensor d03", "NRV IMU6 'C0008' 35");
     box.clear();
-    parent = new QDialog;
-    dialog = new AddInertialSensorDlg(fake, parent, &versions);
-}
-
-void tst_AddInertialSensorDlg::cleanup()
-{
-    delete parent;
-    delete fake;
-    QCOMPARE(ModalDialogHelper::pending(), 0);
-    ModalDialogHelper::clear_pending();
-    QCOMPARE(ModalDialogHelper::leaked_windows(), QStringList());
+    dialog = new AddInertialSensorDlg(fake, owner, &versions);
 }
 
 void tst_AddInertialSensorDlg::open(const std::function<void()>& steps)

@@ -8,20 +8,18 @@
 
 #include <functional>
 
-#include "FakeController.h"
-#include "ModalDialogHelper.h"
+#include "DialogFixture.h"
 #include "calibration/CalibrationProgressDlg.h"
-#include "module/BackendVersions.h"
 
 using Lines = QList<QByteArray>;
 
-class tst_CalibrationProgressDlg : public QObject
+class tst_CalibrationProgressDlg : public QObject, DialogFixture
 {
     Q_OBJECT
 
 private slots:
     void init();
-    void cleanup();
+    void cleanup() { finish(); }
     void runs_data();
     void runs();
     void declined_countdown_starts_nothing();
@@ -39,35 +37,19 @@ private:
     // Notes what the next countdown shows and presses `button`, or lets it run out.
     void on_countdown(const char* button = "pushButton_2");
 
-    FakeController* fake = nullptr;
-    BackendVersions versions;
-    QDialog* parent = nullptr;
     CalibrationProgressDlg* dlg = nullptr;
     QList<int> countdowns;
 };
 
 void tst_CalibrationProgressDlg::init()
 {
-    fake = new FakeController;
-    versions = BackendVersions();
-    versions.major = 1;
-    versions.minor = 21;
-    parent = new QDialog;
+    start();
     countdowns.clear();
-}
-
-void tst_CalibrationProgressDlg::cleanup()
-{
-    delete parent;
-    delete fake;
-    QCOMPARE(ModalDialogHelper::pending(), 0);
-    ModalDialogHelper::clear_pending();
-    QCOMPARE(ModalDialogHelper::leaked_windows(), QStringList());
 }
 
 void tst_CalibrationProgressDlg::make(bool pause_mode, int steps, const QByteArray& pause)
 {
-    dlg = new CalibrationProgressDlg(fake, parent, &versions, pause_mode);
+    dlg = new CalibrationProgressDlg(fake, owner, &versions, pause_mode);
     for (const QByteArray type : {"align", "reflex_scan"}) {
         fake->reply("cal type_desc " + type, "\"Sensor " + type + "\"");
         fake->reply("cal number_of_steps " + type, QByteArray::number(steps));

@@ -10,10 +10,8 @@
 #include <algorithm>
 #include <functional>
 
-#include "FakeController.h"
-#include "ModalDialogHelper.h"
+#include "DialogFixture.h"
 #include "calibration/InertialCalibrationDlg.h"
-#include "module/BackendVersions.h"
 
 using Lines = QList<QByteArray>;
 
@@ -27,13 +25,13 @@ QByteArray marked(const QByteArray& sensor, const char* yes_no) { return "inerti
 
 // Three active bodies carry a sensor: left and right can be calibrated, the
 // third's sensor is away; a fourth body is inactive.
-class tst_InertialCalibrationDlg : public QObject
+class tst_InertialCalibrationDlg : public QObject, DialogFixture
 {
     Q_OBJECT
 
 private slots:
     void init();
-    void cleanup();
+    void cleanup() { finish(); }
     void reasons_data();
     void reasons();
     void run_to_residuals();
@@ -59,23 +57,16 @@ private:
     // Calibrates both sensors until the controller reports the end.
     void calibrate(const QList<QByteArray>& statuses);
 
-    FakeController* fake = nullptr;
-    BackendVersions versions;
-    QDialog* parent = nullptr;
     InertialCalibrationDlg* dlg = nullptr;
     QList<int> bars;   // after each tick of calibrate()
 };
 
 void tst_InertialCalibrationDlg::init()
 {
-    fake = new FakeController;
+    start();
     fake->set_stateful(true);
-    versions = BackendVersions();
-    versions.major = 1;
-    versions.minor = 21;
-    parent = new QDialog;
     bars.clear();
-    dlg = new InertialCalibrationDlg(fake, parent, &versions);
+    dlg = new InertialCalibrationDlg(fake, owner, &versions);
     for (const auto& [line, answer] : QList<QPair<QByteArray, QByteArray>>{
              {"config is_changeable", "yes"}, {"inertial available", "yes"}, {"inertial number_of_sensors", "2"},
              {"inertial sensor d01", S3}, {"inertial sensor d02", S1}, {"inertial body_of_sensor " + S3, "none"},
@@ -98,15 +89,6 @@ void tst_InertialCalibrationDlg::init()
         fake->reply("inertial sensor_handeye " + s, "standard b01");
         fake->reply("norvane inertial accept_new_sensor_gyro " + s, "norvane ok");
     }
-}
-
-void tst_InertialCalibrationDlg::cleanup()
-{
-    delete parent;
-    delete fake;
-    QCOMPARE(ModalDialogHelper::pending(), 0);
-    ModalDialogHelper::clear_pending();
-    QCOMPARE(ModalDialogHelper::leaked_windows(), QStringList());
 }
 
 void tst_InertialCalibrationDlg::open(const std::function<void()>& inside)
@@ -178,7 +160,7 @@ void tst_InertialCalibrationDlg::reasons()
         QCOMPARE(w<QLabel>("label_error")->isVisible(), !reason.isEmpty());
         QCOMPARE(w("pushButton_calibrate")->isEnabled(), usable);
         QCOMPARE(w<QTableWidget>("tableWidget")->isEnabled(), usable);
-        QCOMPARE(dlg->windowIcon().cacheKey() != parent->windowIcon().cacheKey(), line == "config is_changeable");
+        QCOMPARE(dlg->windowIcon().cacheKey() != owner->windowIcon().cacheKey(), line == "config is_changeable");
         QTest::keyClick(dlg, Qt::Key_Escape);   // no run: leaves
         QVERIFY(!dlg->isVisible());
     });

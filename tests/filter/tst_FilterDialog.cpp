@@ -8,13 +8,11 @@
 
 #include <functional>
 
-#include "FakeController.h"
+#include "DialogFixture.h"
 #include "HostHarness.h"
-#include "ModalDialogHelper.h"
 #include "filter/FilterDialog.h"
 #include "host/InProcessLink.h"
 #include "host/MainWindow.h"
-#include "module/BackendVersions.h"
 #include "simulator/SimulatedController.h"
 
 using Lines = QList<QByteArray>;
@@ -61,7 +59,7 @@ const QStringList AllControls = {"body", "active", "preset", "strength", "predic
 
 } // namespace
 
-class tst_FilterDialog : public QObject
+class tst_FilterDialog : public QObject, DialogFixture
 {
     Q_OBJECT
 
@@ -84,19 +82,14 @@ private:
     QStringList enabled() const;
     QStringList items(const char* combo) const;
 
-    FakeController* fake = nullptr;
-    BackendVersions versions;
     FilterDialog* dlg = nullptr;
 };
 
 void tst_FilterDialog::init()
 {
-    fake = new FakeController;
+    start();
     fake->set_stateful(true);
-    versions = BackendVersions();
-    versions.major = 1;
-    versions.minor = 21;
-    dlg = new FilterDialog(fake, nullptr, &versions);
+    dlg = new FilterDialog(fake, owner, &versions);
     QByteArray script = Script + ('|' + QByteArray(BodyScript).replace(" B", " standard b01"));
     script += '|' + QByteArray(BodyScript).replace(" B", " standard b03");
     for (const QByteArray& entry : script.replace('\n', '|').split('|'))
@@ -105,12 +98,8 @@ void tst_FilterDialog::init()
 
 void tst_FilterDialog::cleanup()
 {
-    delete dlg;
     QCOMPARE(fake->unexpected(), Lines());
-    delete fake;
-    QCOMPARE(ModalDialogHelper::pending(), 0);
-    ModalDialogHelper::clear_pending();
-    QCOMPARE(ModalDialogHelper::leaked_windows(), QStringList());
+    finish();
 }
 
 void tst_FilterDialog::open(const std::function<void()>& steps, int type)
@@ -303,7 +292,7 @@ void tst_FilterDialog::simulatorKeepsWhatIsChosen()
     QVERIFY2(host.ok(), qPrintable(host.error()));
     const int start_messages = host.messages().size();   // the host's own start-up notes
     delete dlg;
-    dlg = new FilterDialog(host.link(), nullptr, host.window()->backend_versions());
+    dlg = new FilterDialog(host.link(), owner, host.window()->backend_versions());
     open([&] {   // body 03, "head", uses the medium prediction preset
         auto* presets = w<QComboBox>("comboBox_preset");
         QCOMPARE(presets->currentText(), "medium prediction");

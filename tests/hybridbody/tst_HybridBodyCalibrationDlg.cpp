@@ -7,10 +7,8 @@
 
 #include <functional>
 
-#include "FakeController.h"
-#include "ModalDialogHelper.h"
+#include "DialogFixture.h"
 #include "hybridbody/HybridBodyCalibrationDlg.h"
-#include "module/BackendVersions.h"
 #include "module/InertialTrackingModule.h"
 
 using B = QByteArray;
@@ -18,7 +16,7 @@ using Lines = QList<QByteArray>;
 
 // Bodies 1 (ready, "left hand"), 2 (calibrated, inactive), 3 (its sensor
 // absent), 4 (uncalibrated, "torso") and 5 (no sensor).
-class tst_HybridBodyCalibrationDlg : public QObject
+class tst_HybridBodyCalibrationDlg : public QObject, DialogFixture
 {
     Q_OBJECT
 
@@ -42,20 +40,13 @@ private:
     // lines sent, and what the result showed in *shown.
     Lines calibrate(int index, const B& button, QString* shown);
 
-    FakeController* fake = nullptr;
-    BackendVersions versions;
-    QWidget* parent = nullptr;
     HybridBodyCalibrationDlg* dlg = nullptr;
 };
 
 void tst_HybridBodyCalibrationDlg::init()
 {
-    fake = new FakeController;
-    versions = BackendVersions();
-    versions.major = 1;
-    versions.minor = 21;
-    parent = new QWidget;
-    dlg = new HybridBodyCalibrationDlg(fake, parent, &versions);
+    start();
+    dlg = new HybridBodyCalibrationDlg(fake, owner, &versions);
     const QList<std::pair<B, B>> script = {
         {"config is_changeable", "yes"}, {"inertial available", "yes"}, {"inertial number_of_sensors", "1"},
         {"inertial sensor d01", "NRV IMU3 '10231'"}, {"inertial body_of_sensor NRV IMU3 '10231'", "standard b01"},
@@ -90,11 +81,7 @@ void tst_HybridBodyCalibrationDlg::cleanup()
     dlg->about_to_exit();
     QVERIFY(!fake->receiver("HybridBodyCalibration"));
     QCOMPARE(fake->unexpected(), Lines());
-    delete parent;
-    delete fake;
-    QCOMPARE(ModalDialogHelper::pending(), 0);
-    ModalDialogHelper::clear_pending();
-    QCOMPARE(ModalDialogHelper::leaked_windows(), QStringList());
+    finish();
 }
 
 void tst_HybridBodyCalibrationDlg::open(const std::function<void()>& inside)

@@ -6,9 +6,7 @@
 
 #include <memory>
 
-#include "FakeController.h"
-#include "ModalDialogHelper.h"
-#include "module/BackendVersions.h"
+#include "DialogFixture.h"
 #include "statusbar/BatteryBar.h"
 #include "statusbar/InertialStatusBar.h"
 #include "statusbar/TemperatureBar.h"
@@ -16,13 +14,13 @@
 // The status widget against the scripted controller: its own availability
 // rule, the three states its two polls move it between, the warm-up button,
 // and the two bars' colours.
-class tst_InertialStatusBar : public QObject
+class tst_InertialStatusBar : public QObject, DialogFixture
 {
     Q_OBJECT
 
 private slots:
-    void init();
-    void cleanup();
+    void init() { start(); }
+    void cleanup() { status.reset(); finish(); }
     void bars_data();
     void bars();
     void polls_data();
@@ -40,28 +38,8 @@ private:
     QString state() const;
     QTimer* timer(const char* name) const { return status->findChild<QTimer*>(name); }
 
-    FakeController* fake = nullptr;
-    BackendVersions versions;
-    QWidget* window = nullptr;
     std::unique_ptr<InertialStatusBar> status;
 };
-
-void tst_InertialStatusBar::init()
-{
-    fake = new FakeController;
-    versions = BackendVersions();
-    versions.major = 1;
-    versions.minor = 21;
-    window = new QWidget;
-}
-
-void tst_InertialStatusBar::cleanup()
-{
-    status.reset();
-    delete window;
-    delete fake;
-    QCOMPARE(ModalDialogHelper::leaked_windows(), QStringList());
-}
 
 void tst_InertialStatusBar::answer(const QList<QByteArray>& answers)
 {
@@ -183,7 +161,7 @@ void tst_InertialStatusBar::polls()
 
     versions.minor = minor;
     answer(before);
-    status = std::make_unique<InertialStatusBar>(fake, window, &versions);
+    status = std::make_unique<InertialStatusBar>(fake, owner, &versions);
     QStringList seen{state() + QString(" [%1]").arg(fake->lines().size())};
     answer(after);
     // The bar's own timers drive the polls, as they do in the host.
@@ -224,7 +202,7 @@ void tst_InertialStatusBar::button()
     QFETCH(QString, state);
 
     answer({"yes", "2", warmup, "0.4"});
-    status = std::make_unique<InertialStatusBar>(fake, window, &versions);
+    status = std::make_unique<InertialStatusBar>(fake, owner, &versions);
     status->update_status();
     const QByteArray setting = warmup == "yes" ? "inertial warmup no" : "inertial warmup yes";
     accepted ? fake->accept(setting) : fake->fail(setting);
@@ -243,7 +221,7 @@ void tst_InertialStatusBar::button()
 void tst_InertialStatusBar::blockedChangesNothing()
 {
     answer({"yes", "2", "yes", "0.4"});
-    status = std::make_unique<InertialStatusBar>(fake, window, &versions);
+    status = std::make_unique<InertialStatusBar>(fake, owner, &versions);
     status->update_status();
     const QString before = state();
     // Whatever the controller would say now, nothing is asked or shown.
