@@ -82,6 +82,8 @@ int FakeController::answer(Operation operation, const QByteArray& line, QByteArr
 {
     call_log << Call{operation, line, wait_separately, timeout_ms, timeout_flag};
     ++trips;
+    if (const std::function<void()> hook = hooks.value(line))
+        hook();
     auto it = script.find(line);
     if (it == script.end()) {
         // In stateful mode a setting of a scripted path needs no script.

@@ -7,6 +7,8 @@
 #include <QString>
 #include <QStringList>
 
+#include <functional>
+
 #include "module/IOManager.h"
 
 // A scripted controller for dialog tests. It formats every call's line as a
@@ -37,6 +39,9 @@ public:
     void fail(const QByteArray& line, int result = 1) { script.insert(line, Script{{}, 0, result}); }
     void accept(const QByteArray& setting) { reply(setting, QByteArray(), 0); }
     void forget(const QByteArray& line) { script.remove(line); }
+    // Runs `hook` each time `line` goes out, before it is answered: what the
+    // user sees while the dialog waits for the controller.
+    void when_asked(const QByteArray& line, std::function<void()> hook) { hooks.insert(line, std::move(hook)); }
     void set_stateful(bool on) { stateful = on; }
     void set_blocked(bool on) { blocked = on; }
     // Result of wait_for_completion for the pending asynchronous command.
@@ -79,6 +84,7 @@ private:
     bool apply_setting(const QByteArray& line);
 
     QHash<QByteArray, Script> script;
+    QHash<QByteArray, std::function<void()>> hooks;
     QList<Call> call_log;
     QList<QByteArray> unexpected_lines;
     QList<Message> message_log;
