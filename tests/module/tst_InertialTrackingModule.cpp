@@ -3,6 +3,9 @@
 #include <QAction>
 #include <QPointer>
 
+#include <cstring>
+#include <new>
+
 #include "FakeController.h"
 #include "ModalDialogHelper.h"
 #include "module/BackendVersions.h"
@@ -89,9 +92,13 @@ void tst_InertialTrackingModule::elements()
 
 void tst_InertialTrackingModule::lifecycle()
 {
-    InertialTrackingModule unused;   // closed before it handed anything out
-    unused.about_to_exit_module();
-    unused.exit_module();
+    // Closed before it handed anything out, in memory that held something else.
+    alignas(InertialTrackingModule) unsigned char memory[sizeof(InertialTrackingModule)];
+    std::memset(memory, 0xA5, sizeof memory);
+    auto* unused = new (memory) InertialTrackingModule;
+    unused->about_to_exit_module();
+    unused->exit_module();
+    unused->~InertialTrackingModule();
     QCOMPARE(ModalDialogHelper::leaked_windows(), QStringList());
 }
 

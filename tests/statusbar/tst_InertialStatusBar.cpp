@@ -166,8 +166,10 @@ void tst_InertialStatusBar::polls()
     answer(after);
     // The bar's own timers drive the polls, as they do in the host.
     QCOMPARE(timer("statusTimer")->interval() + timer("progressTimer")->interval(), 6000);
+    status->hide();   // a status poll that finds sensors shows the bar again
     QMetaObject::invokeMethod(timer("statusTimer"), "timeout");
     seen << state();
+    QCOMPARE(status->isHidden(), seen.last().contains("(off)"));
     if (timer("progressTimer")->isActive())
         QMetaObject::invokeMethod(timer("progressTimer"), "timeout");
     seen << state();
