@@ -3,6 +3,7 @@
 #include <QCheckBox>
 #include <QHeaderView>
 #include <QLabel>
+#include <QMessageBox>
 #include <QProgressBar>
 #include <QPushButton>
 #include <QTableWidget>
@@ -119,29 +120,39 @@ void tst_InertialCalibrationDlg::reasons_data()
 {
     QTest::addColumn<int>("minor");
     QTest::addColumn<QByteArray>("line");
-    QTest::addColumn<QByteArray>("answer");
+    QTest::addColumn<QByteArray>("answer");   // "-": the line fails
     QTest::addColumn<QString>("reason");
     QTest::addColumn<bool>("usable");
+    QTest::addColumn<QStringList>("messages");   // reported, or shown in a box
 
-    QTest::newRow("ready") << 21 << QByteArray() << QByteArray() << "" << true;
-    QTest::newRow("older than 1.12") << 11 << QByteArray() << QByteArray()
-                                     << "This controller does not support hybrid sensors - please update your controller"
-                                     << false;
-    QTest::newRow("inertial tracking off") << 21 << QByteArray("inertial available") << QByteArray("no")
-                                           << "Hybrid tracking is not available" << false;
-    QTest::newRow("no sensor on a body") << 21 << "inertial body_of_sensor " + S1 << QByteArray("none")
-                                         << "No hybrid body is available" << false;
-    QTest::newRow("no room calibration") << 21 << QByteArray("cal available inertial_gyro") << QByteArray("no")
-                                         << "No valid room calibration" << false;
-    QTest::newRow("no body calibratable") << 21 << QByteArray("standard number_of_bodies") << QByteArray("0")
-                                          << "No active body with hybrid calibration found" << false;
-    QTest::newRow("cold sensors, a warning") << 21 << QByteArray("inertial warmup_status") << QByteArray("0.9")
-                                             << "Not all sensors have been warmed up, to get a valid calibration please "
-                                                "start the warmup!" << true;
-    QTest::newRow("a body's sensor unreadable") << 21 << QByteArray("body inertial_sensor standard b02") << QByteArray("x")
-                                                << "" << true;
-    QTest::newRow("locked: lock, no reason") << 21 << QByteArray("config is_changeable") << QByteArray("no") << ""
-                                             << false;
+    const QString cold = "Not all sensors have been warmed up, to get a valid calibration please start the warmup!";
+    const auto row = [](const char* name, const QByteArray& line, const QByteArray& answer, const QString& reason,
+                        bool usable, const QStringList& messages = {}, int minor = 21) {
+        QTest::newRow(name) << minor << line << answer << reason << usable << messages;
+    };
+    row("ready", {}, {}, "", true);
+    row("older than 1.12", {}, {}, "This controller does not support hybrid sensors - please update your controller",
+        false, {}, 11);
+    row("inertial tracking off", "inertial available", "no", "Hybrid tracking is not available", false);
+    row("no sensor on a body", "inertial body_of_sensor " + S1, "none", "No hybrid body is available", false);
+    row("a sensor unknown: the next one decides", "inertial sensor d01", "-", "", true,
+        {"Information: Could not get informations of sensor 1"});
+    row("no room calibration", "cal available inertial_gyro", "no", "No valid room calibration", false);
+    row("room calibration unknown: tried", "cal available inertial_gyro", "-", "", true,
+        {"Could not get calibration information"});
+    row("no body calibratable", "standard number_of_bodies", "0", "No active body with hybrid calibration found", false);
+    row("cold sensors, a warning", "inertial warmup_status", "0.9", cold, true);
+    row("warmth unknown: a warning", "inertial warmup_status", "-", cold, true, {"Could not get warmup status"});
+    row("a body's sensor unreadable", "body inertial_sensor standard b02", "x", "", true,
+        {"Could not get sensor of body: standard b02"});
+    row("a body's activity unknown", "body active standard b02", "-", "", true,
+        {"Could not get information body standard b02 is active"});
+    row("a body's name unknown", "body desc standard b02", "-", "", true, {"Could not get description of body: standard b02"});
+    row("a sensor's presence unknown", "inertial sensor_present " + S2, "-", "", true,
+        {"Error ln751: Unable to get informations of sensor"});
+    row("a sensor's place unknown", "inertial sensor_handeye " + S1, "-", "", true,
+        {"Could not get hybrid calibration of sensor: " + S1});
+    row("locked: lock, no reason", "config is_changeable", "no", "", false);
 }
 
 void tst_InertialCalibrationDlg::reasons()
@@ -151,9 +162,16 @@ void tst_InertialCalibrationDlg::reasons()
     QFETCH(QByteArray, answer);
     QFETCH(QString, reason);
     QFETCH(bool, usable);
+    QFETCH(QStringList, messages);
 
     versions.minor = minor;
-    fake->reply(line, answer);
+    answer == "-" ? fake->fail(line) : fake->reply(line, answer);
+    QStringList shown;
+    if (line == "inertial sensor d01")
+        ModalDialogHelper::when_active("QMessageBox", [&](QWidget* box) {
+            shown << box->windowTitle() + ": " + qobject_cast<QMessageBox*>(box)->text();
+            ModalDialogHelper::close(box);
+        });
     open([&] {
         QCOMPARE(w<QLabel>("label_error")->text(),
                  reason.isEmpty() ? QString() : "<b><font color=red>" + reason + "</font></b>");
@@ -164,7 +182,7 @@ void tst_InertialCalibrationDlg::reasons()
         QTest::keyClick(dlg, Qt::Key_Escape);   // no run: leaves
         QVERIFY(!dlg->isVisible());
     });
-    QCOMPARE(fake->message_texts(), answer == "x" ? QStringList{"Could not get sensor of body: standard b02"} : QStringList());
+    QCOMPARE(shown + fake->message_texts(), messages);
 }
 
 void tst_InertialCalibrationDlg::run_to_residuals()
@@ -208,17 +226,21 @@ void tst_InertialCalibrationDlg::run_to_residuals()
 void tst_InertialCalibrationDlg::run_endings_data()
 {
     QTest::addColumn<QString>("action");
-    QTest::addColumn<QByteArray>("stop");       // the reply to stopping
+    QTest::addColumn<QByteArray>("stop");       // the reply to stopping; "-": not sent
     QTest::addColumn<int>("stops");
     QTest::addColumn<bool>("running");
     QTest::addColumn<int>("bar");
+    QTest::addColumn<QStringList>("messages");
 
     const QByteArray ok = "norvane ok";
-    QTest::newRow("err ends it") << "err" << ok << 0 << false << 0;
-    QTest::newRow("Cancel stops") << "cancel" << ok << 1 << false << 0;
-    QTest::newRow("Escape acts as Cancel") << "escape" << ok << 1 << false << 0;
-    QTest::newRow("stop refused") << "cancel" << QByteArray("norvane err 7") << 1 << true << 60;
-    QTest::newRow("closing stops nothing") << "close" << ok << 0 << true << 60;
+    QTest::newRow("err ends it") << "err" << ok << 0 << false << 0 << QStringList{"Could not get progress of calibration "
+        "of sensor: " + S2, "Could not get progress of calibration"};
+    QTest::newRow("Cancel stops") << "cancel" << ok << 1 << false << 0 << QStringList();
+    QTest::newRow("Escape acts as Cancel") << "escape" << ok << 1 << false << 0 << QStringList();
+    QTest::newRow("stop refused") << "cancel" << QByteArray("norvane err 7") << 1 << true << 60 << QStringList();
+    QTest::newRow("stop not sent") << "cancel" << QByteArray("-") << 1 << true << 60
+                                   << QStringList{"Could not stop calibration"};
+    QTest::newRow("closing stops nothing") << "close" << ok << 0 << true << 60 << QStringList();
 }
 
 void tst_InertialCalibrationDlg::run_endings()
@@ -228,8 +250,9 @@ void tst_InertialCalibrationDlg::run_endings()
     QFETCH(int, stops);
     QFETCH(bool, running);
     QFETCH(int, bar);
+    QFETCH(QStringList, messages);
 
-    fake->reply("norvane cal inertial_gyro stop", stop);
+    stop == "-" ? fake->fail("norvane cal inertial_gyro stop") : fake->reply("norvane cal inertial_gyro stop", stop);
     open([&] {
         calibrate({"cal"});
         fake->clear_log();
@@ -238,8 +261,6 @@ void tst_InertialCalibrationDlg::run_endings()
             fake->fail("inertial sensor_gyro_progress " + S2);
             fake->fail("status progress");
             tick();
-            QCOMPARE(fake->message_texts(), QStringList({"Could not get progress of calibration of sensor: " + S2,
-                                                         "Could not get progress of calibration"}));
         } else if (action == "cancel") {
             w("pushButton_cancel")->click();
         } else {
@@ -253,6 +274,7 @@ void tst_InertialCalibrationDlg::run_endings()
             QCOMPARE(cell(0, 0)->background(), QBrush(Qt::transparent));
     });
     QCOMPARE(fake->count("norvane cal inertial_gyro stop"), stops);
+    QCOMPARE(fake->message_texts(), messages);
     QCOMPARE(fake->count(marked(S1, "no")), 0);
 }
 
@@ -265,11 +287,15 @@ void tst_InertialCalibrationDlg::apply_data()
     QTest::addColumn<QStringList>("messages");
 
     const QByteArray accept = "norvane inertial accept_new_sensor_gyro ";
+    const QString unread = "Could not set get new residual of sensor: " + S1;
     QTest::newRow("one kept, one refused") << QByteArray("0.2") << false << Lines{accept + S1, marked(S1, "no"), accept + S2, marked(S2, "no")}
                                            << QStringList{"101 Norvane IMU left"}
                                            << QStringList{"Could not accept new calirabtion of sensor: " + S2};
     QTest::newRow("unticked, not kept") << QByteArray("0.0") << false << Lines{accept + S2, marked(S2, "no")}
                                         << QStringList() << QStringList{"Could not accept new calirabtion of sensor: " + S2};
+    QTest::newRow("residual unknown: not offered") << QByteArray("-") << false << Lines{accept + S2, marked(S2, "no")}
+        << QStringList() << QStringList{unread, unread, unread,   // asked again at each tick
+                                        "Could not accept new calirabtion of sensor: " + S2};
     QTest::newRow("failed unmark stops") << QByteArray("0.2") << true << Lines{accept + S1, marked(S1, "no")} << QStringList()
                                          << QStringList{"Could not set calibration of sensor: " + S1};
 }
@@ -285,11 +311,12 @@ void tst_InertialCalibrationDlg::apply()
     fake->reply("norvane inertial accept_new_sensor_gyro " + S2, "norvane err 7", 4);
     if (unmark_fails)
         fake->fail(marked(S1, "no"));
-    fake->reply("inertial new_sensor_gyro_residual " + S1, residual);
+    residual == "-" ? fake->fail("inertial new_sensor_gyro_residual " + S1)
+                    : fake->reply("inertial new_sensor_gyro_residual " + S1, residual);
     QStringList seen;
     open([&] {
         calibrate({"cal", "cal", "none"});
-        fake->clear_log();
+        const int mark = fake->lines().size();
         if (!listed.isEmpty())
             ModalDialogHelper::when_active("InertialCalibrationResultDlg", [&](QWidget* result) {
                 QVERIFY(dlg->cursor().shape() == Qt::WaitCursor);
@@ -302,7 +329,7 @@ void tst_InertialCalibrationDlg::apply()
             });
         w("pushButton_apply")->click();
         QCOMPARE(dlg->cursor().shape(), Qt::ArrowCursor);
-        QCOMPARE(fake->lines(), lines);
+        QCOMPARE(fake->lines().mid(mark), lines);
         QCOMPARE(fake->message_texts(), messages);
         fake->clear_log();
         QMetaObject::invokeMethod(dlg, "on_pushButton_apply_clicked");
