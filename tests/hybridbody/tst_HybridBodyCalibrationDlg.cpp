@@ -213,11 +213,26 @@ void tst_HybridBodyCalibrationDlg::calibration_data()
     QTest::newRow("no result: empty matrix") << 0 << usual << "inertial new_sensor_handeye " + s
         << B("pushButton_ok") << run(s, true) + accepted << shown.arg(b1, "12.30", QString(9, ' '))
         << QStringList{"Error: Unable to get sensor hybrid calibration result"};
+    QTest::newRow("flags refused: told, the run goes on") << 0 << usual << "inertial sensor_handeye_calibrate " + s
+        + " yes|body active standard b01 yes|inertial sensor_handeye_calibrate " + s + " no" << B("pushButton_ok")
+        << run(s, true) + accepted << shown.arg(b1, "12.30", matrix) << QStringList{"Could not set hybrid calibration "
+        "of sensor: " + s, "Could not set body settings: standard b01", "Could not reset hybrid calibration status of "
+        "sensor: " + s};
+    QTest::newRow("tracking refused: told, the run goes on") << 0 << usual << B("norvane tracking stop|norvane tracking "
+        "start") << B("pushButton_ok") << run(s, true) + accepted << shown.arg(b1, "12.30", matrix)
+        << QStringList{"Could not stop tracking", "Could not start tracking", "Could not start tracking"};
+    QTest::newRow("unreadable bodies left out, the rest offered") << 0 << usual << B("cal available inertial_handeye|"
+        "inertial sensor_present NRV IMU3 '10233'|body inertial_sensor standard b05") << B("pushButton_ok")
+        << run(s, true) + accepted << shown.arg(b1, "12.30", matrix) << QStringList{"Could not get calibration "
+        "information", "Error: Unable to info inertial sensor is present", "Could not get information of sensor: standard b05"};
+    QTest::newRow("no bodies known: nothing to calibrate") << 0 << usual << B("standard number_of_bodies") << B()
+        << Lines() << "" << QStringList{"Error: Unable to get number of bodies"};
     QTest::newRow("uncalibrated, unreadable body discarded: inactive again") << 2 << usual
-        << B("body calibrated standard b04|body desc standard b04") << B("pushButton_cancel")
-        << run(s4, false) + result(s4, {"body active standard b04 no"}) << shown.arg("4|10234", "12.30", matrix)
-        << QStringList{"Could not get calibration status of body: standard b04",
-                       "Could not get description of sensor: standard b04"};
+        << B("body active standard b04|body calibrated standard b04|body desc standard b04|body active standard b04 no")
+        << B("pushButton_cancel") << run(s4, false) + result(s4, {"body active standard b04 no"})
+        << shown.arg("4|10234", "12.30", matrix) << QStringList{"Could not get active status of body: standard b04",
+        "Could not get calibration status of body: standard b04", "Could not get description of sensor: standard b04",
+        "Could not restore body settings: standard b04"};
     QTest::newRow("accept refused: left alone") << 2 << usual << "norvane inertial accept_new_sensor_handeye " + s4
         << B("pushButton_ok") << run(s4, false) + result(s4, {"norvane inertial accept_new_sensor_handeye " + s4})
         << shown.arg("4 (torso)|10234", "12.30", matrix) << QStringList();
@@ -226,6 +241,10 @@ void tst_HybridBodyCalibrationDlg::calibration_data()
     QTest::newRow("controller in error") << 0 << QList<B>{"err"} << B() << B()
         << Lines{active, "inertial sensor_handeye_calibrate " + s + " yes", "body active standard b01 yes", active,
                  "norvane tracking start", active} << "" << QStringList{"Error: Cannot start hybrid calibration"};
+    QTest::newRow("waiting for the cameras") << 0 << QList<B>{"tracking", "none", "wait"} << B() << B()
+        << Lines{active, "norvane tracking stop", "inertial sensor_handeye_calibrate " + s + " yes",
+                 "body active standard b01 yes", active, "norvane tracking start", active} << ""
+        << QStringList{"Error: Cannot start hybrid calibration. Maybe camera is disconnected"};
     QTest::newRow("F3 on an inactive body") << 1 << usual << B() << B() << Lines() << "" << QStringList();
 }
 
