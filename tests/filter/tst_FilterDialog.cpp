@@ -71,6 +71,7 @@ private slots:
     void openingAndBodyChange();
     void writes_data();
     void writes();
+    void readFailures_data();
     void readFailures();
     void simulatorKeepsWhatIsChosen();
 
@@ -150,6 +151,8 @@ void tst_FilterDialog::closed_data()
                                        << "6DOF filter not available" << false;
     QTest::newRow("controller 1.8, never locked") << 8 << 0 << QByteArray("config is_changeable=no") << Lines()
                                                   << bodies << false;
+    QTest::newRow("no calibrated wand") << 21 << 1 << QByteArray("wand number_of_devices=0")
+                                        << wand + Lines{"wand number_of_devices"} << "No wand is calibrated" << false;
     QTest::newRow("no calibrated body") << 21 << 0 << QByteArray("body number_of_bodies standard=0")
         << standard + Lines{"body number_of_bodies standard"} << "No standard body is calibrated" << false;
 }
@@ -264,24 +267,48 @@ void tst_FilterDialog::writes()
     QCOMPARE(fake->message_texts(), message.isEmpty() ? QStringList() : QStringList(message));
 }
 
+void tst_FilterDialog::readFailures_data()
+{
+    QTest::addColumn<Lines>("failing");
+    QTest::addColumn<QString>("shown");   // the presets, the one chosen, the modes, the one chosen
+    QTest::addColumn<QStringList>("enabledAfter");
+    QTest::addColumn<QStringList>("messages");
+
+    QTest::newRow("choices left out, the rest offered") << Lines{"filter6d preset_id t01",
+        "filter6d preset_desc preset6d_custom", "body filter6d_preset_available standard b03 preset6d_hybrid_custom",
+        "filter6d number_of_modes", "body filter6d_mode standard b03"} << "preset6d_custom/preset6d_custom (/)"
+        << AllControls << QStringList{"Error: Unable to get filter 6d preset id",
+        "Error: Unable to get filter 6d preset description", "Error: Unable to get filter 6d preset id available",
+        "Error: Unable to get number of filter 6d modes", "Error: Unable to get filter 6d mode for body standard b03"};
+    QTest::newRow("the body's filter unknown: nothing claimed") << Lines{"body calibrated standard b02",
+        "body filter6d_enabled standard b03", "filter6d number_of_presets", "body filter6d_preset standard b03",
+        "body filter6d_strength standard b03", "body filter6d_prediction standard b03", "filter6d mode_id t01",
+        "filter6d mode_desc mode6d_smooth", "body filter6d_mode_available standard b03 mode6d_hybrid"}
+        << "/ (mode6d_smooth/mode6d_smooth)" << QStringList{"body", "active", "preset"} << QStringList{
+        "Error: Unable to get calibration info of body", "Error: Unable to get filter info of body",
+        "Error: Unable to get number of filter 6d presets", "Error: Unable to get filter 6d preset for body standard b03",
+        "Error: Unable to get filter 6d strength for body standard b03",
+        "Error: Unable to get filter 6d prediction for body standard b03", "Error: Unable to get filter 6d mode id",
+        "Error: Unable to get filter 6d mode description", "Error: Unable to get filter 6d mode id available"};
+}
+
 void tst_FilterDialog::readFailures()
 {
-    for (const QByteArray line : {"filter6d preset_id t01", "filter6d preset_desc preset6d_custom",
-                                  "body filter6d_preset_available standard b03 preset6d_hybrid_custom",
-                                  "filter6d number_of_modes",
-                                  "body filter6d_mode standard b03"})
+    QFETCH(Lines, failing);
+    QFETCH(QString, shown);
+    QFETCH(QStringList, enabledAfter);
+    QFETCH(QStringList, messages);
+
+    for (const QByteArray& line : failing)
         fake->fail(line);
     open([&] {
-        QCOMPARE(items("comboBox_preset"), QStringList({"preset6d_custom"}));
-        QCOMPARE(w<QComboBox>("comboBox_preset")->currentText(), "preset6d_custom");
-        QCOMPARE(items("comboBox_mode"), QStringList());
-        QCOMPARE(enabled(), AllControls);
+        const auto chosen = [this](const char* combo) {
+            return items(combo).join(',') + '/' + w<QComboBox>(combo)->currentText();
+        };
+        QCOMPARE(chosen("comboBox_preset") + " (" + chosen("comboBox_mode") + ')', shown);
+        QCOMPARE(enabled(), enabledAfter);
     });
-    QCOMPARE(fake->message_texts(), QStringList({"Error: Unable to get filter 6d preset id",
-                                                 "Error: Unable to get filter 6d preset description",
-                                                 "Error: Unable to get filter 6d preset id available",
-                                                 "Error: Unable to get number of filter 6d modes",
-                                                 "Error: Unable to get filter 6d mode for body standard b03"}));
+    QCOMPARE(fake->message_texts(), messages);
 }
 
 void tst_FilterDialog::simulatorKeepsWhatIsChosen()
