@@ -41,6 +41,7 @@ private slots:
     void apply_data();
     void apply();
     void warmup();
+    void reopenedIdle();
 
 private:
     template <class T = QPushButton>
@@ -353,6 +354,29 @@ void tst_InertialCalibrationDlg::warmup()
         QVERIFY(!bar->isVisible() && !timer(1000)->isActive() && !warning->isVisible());
         QCOMPARE(fake->count("standard number_of_bodies"), 1);   // rebuilt
     });
+}
+
+void tst_InertialCalibrationDlg::reopenedIdle()
+{
+    // Left while the controller still calibrates, with the user's choices
+    // changed: the next opening shows a fresh table and no run.
+    const auto state = [this] {
+        QString s = QString("%1%, %2%3%4%5%6 ").arg(w<QProgressBar>()->value()).arg(w("pushButton_calibrate")->isEnabled())
+            .arg(w("pushButton_cancel")->isEnabled()).arg(w("pushButton_apply")->isEnabled())
+            .arg(w("pushButton_exit")->isEnabled()).arg(timer(200)->isActive());
+        for (int r = 0; r < w<QTableWidget>("tableWidget")->rowCount(); ++r)
+            s += '|' + cell(r, 4)->text() + (cell(r, 5)->checkState() ? "x" : "");
+        return s;
+    };
+    QStringList seen;
+    open([&] {
+        calibrate({"cal", "cal"});
+        w<QCheckBox>("checkBox_calibrateAll")->setChecked(false);
+        seen << state();
+        QVERIFY(dlg->close());
+    });
+    open([&] { seen << state(); });
+    QCOMPARE(seen, QStringList({"60%, 01001 |0.0000|0.4300|", "0%, 10010 |x|x|"}));
 }
 
 QTEST_MAIN(tst_InertialCalibrationDlg)
