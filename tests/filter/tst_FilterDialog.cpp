@@ -9,11 +9,7 @@
 #include <functional>
 
 #include "DialogFixture.h"
-#include "HostHarness.h"
 #include "filter/FilterDialog.h"
-#include "host/InProcessLink.h"
-#include "host/MainWindow.h"
-#include "simulator/SimulatedController.h"
 
 using Lines = QList<QByteArray>;
 
@@ -73,7 +69,6 @@ private slots:
     void writes();
     void readFailures_data();
     void readFailures();
-    void simulatorKeepsWhatIsChosen();
 
 private:
     template <class T = QWidget>
@@ -309,35 +304,6 @@ void tst_FilterDialog::readFailures()
         QCOMPARE(enabled(), enabledAfter);
     });
     QCOMPARE(fake->message_texts(), messages);
-}
-
-void tst_FilterDialog::simulatorKeepsWhatIsChosen()
-{
-    HostHarness::Options options;
-    options.plugin_file = QStringLiteral(PLUGIN_FILE);
-    HostHarness host(options);
-    QVERIFY2(host.ok(), qPrintable(host.error()));
-    const int start_messages = host.messages().size();   // the host's own start-up notes
-    delete dlg;
-    dlg = new FilterDialog(host.link(), owner, host.window()->backend_versions());
-    open([&] {   // body 03, "head", uses the medium prediction preset
-        auto* presets = w<QComboBox>("comboBox_preset");
-        QCOMPARE(presets->currentText(), "medium prediction");
-        presets->setCurrentIndex(presets->findText("custom"));
-        w<QSpinBox>("spinBox_prediction")->setValue(40);
-        QTest::keyClick(w("spinBox_prediction"), Qt::Key_Return);
-        ModalDialogHelper::when_active("FilterHelp", [&](QWidget* box) {
-            QCOMPARE(box->windowTitle(), "Help Filter");
-            box->findChild<QAbstractButton*>("pushButton_exit")->click();
-        });
-        w<QAbstractButton>("pushButton_help")->click();
-    });
-    open([&] { QCOMPARE(w<QComboBox>("comboBox_body")->currentText(), "pointer (Wand body 01)"); }, 1);   // no wand 03
-    for (const QByteArray path : {"body filter6d_preset standard b03 preset6d_custom",
-                                  "body filter6d_prediction standard b03 0.04"})
-        QCOMPARE(host.simulator()->handle("norvane get " + path.left(path.lastIndexOf(' '))).line,
-                 "norvane set " + path);
-    QCOMPARE(host.messages().mid(start_messages), QStringList());
 }
 
 QTEST_MAIN(tst_FilterDialog)

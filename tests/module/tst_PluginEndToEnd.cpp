@@ -4,6 +4,7 @@
 #include <QCheckBox>
 #include <QComboBox>
 #include <QDialog>
+#include <QSpinBox>
 #include <QLabel>
 #include <QProgressBar>
 #include <QPushButton>
@@ -14,6 +15,7 @@
 
 #include "HostHarness.h"
 #include "ModalDialogHelper.h"
+#include "filter/FilterDialog.h"
 #include "simulator/ManualClock.h"
 #include "simulator/SimModel.h"
 #include "simulator/SimulatedController.h"
@@ -33,6 +35,7 @@ private slots:
     void foundSensorsGoOnBodies();
     void acceptedResidualBecomesTheSensorsCalibration();
     void hybridBodyCalibratedAndAccepted();
+    void filterPresetAndPredictionKept();
 
 private:
     QByteArray ask(const QByteArray& path) const { return host->simulator()->handle("norvane get " + path).line; }
@@ -201,6 +204,36 @@ void tst_PluginEndToEnd::hybridBodyCalibratedAndAccepted()
     host->action("&Hybrid Body")->trigger();
     QCOMPARE(cells, expected);
     QCOMPARE(ask(handeye), "norvane set " + handeye + " standard b02");
+}
+
+void tst_PluginEndToEnd::filterPresetAndPredictionKept()
+{
+    // The filter dialog as the body calibration opens it, on body 03 ("head",
+    // the medium prediction preset), then on the wands, of which there is no 03.
+    FilterDialog dialog(host->link(), host->window(), host->window()->backend_versions());
+    const auto open = [&](int type, const std::function<void()>& steps) {
+        ModalDialogHelper::when_active("FilterDialog", [&](QWidget*) {
+            steps();
+            in<QAbstractButton>(&dialog, "pushButton_exit")->click();
+        });
+        QCOMPARE(dialog.update_and_exec(type, 2), int(QDialog::Accepted));
+    };
+    open(0, [&] {
+        auto* presets = in<QComboBox>(&dialog, "comboBox_preset");
+        QCOMPARE(presets->currentText(), "medium prediction");
+        presets->setCurrentIndex(presets->findText("custom"));
+        in<QSpinBox>(&dialog, "spinBox_prediction")->setValue(40);
+        QTest::keyClick(in<QSpinBox>(&dialog, "spinBox_prediction"), Qt::Key_Return);
+        ModalDialogHelper::when_active("FilterHelp", [&](QWidget* box) {
+            QCOMPARE(box->windowTitle(), "Help Filter");
+            in<QAbstractButton>(box, "pushButton_exit")->click();
+        });
+        in<QAbstractButton>(&dialog, "pushButton_help")->click();
+    });
+    open(1, [&] { QCOMPARE(in<QComboBox>(&dialog, "comboBox_body")->currentText(), "pointer (Wand body 01)"); });
+    QCOMPARE(ask("body filter6d_preset standard b03") + ", " + ask("body filter6d_prediction standard b03"),
+             "norvane set body filter6d_preset standard b03 preset6d_custom, "
+             "norvane set body filter6d_prediction standard b03 0.04");
 }
 
 QTEST_MAIN(tst_PluginEndToEnd)
