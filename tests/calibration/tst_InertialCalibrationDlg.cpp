@@ -125,15 +125,19 @@ void tst_InertialCalibrationDlg::reasons_data()
     QTest::addColumn<QString>("reason");
     QTest::addColumn<bool>("usable");
     QTest::addColumn<QStringList>("messages");   // reported, or shown in a box
+    QTest::addColumn<bool>("locked");            // the lock for an icon
 
     const QString cold = "Not all sensors have been warmed up, to get a valid calibration please start the warmup!";
     const auto row = [](const char* name, const QByteArray& line, const QByteArray& answer, const QString& reason,
-                        bool usable, const QStringList& messages = {}, int minor = 21) {
-        QTest::newRow(name) << minor << line << answer << reason << usable << messages;
+                        bool usable, const QStringList& messages = {}, int minor = 21, bool locked = false) {
+        QTest::newRow(name) << minor << line << answer << reason << usable << messages << locked;
     };
+    const QString old = "This controller does not support hybrid sensors - please update your controller";
     row("ready", {}, {}, "", true);
-    row("older than 1.12", {}, {}, "This controller does not support hybrid sensors - please update your controller",
-        false, {}, 11);
+    row("1.12, the first with inertial sensors", {}, {}, "", true, {}, 12);
+    row("older than 1.12", {}, {}, old, false, {}, 11);
+    row("1.9 locked: the lock alone", "config is_changeable", "no", "", false, {}, 9, true);
+    row("1.8 cannot lock", "config is_changeable", "no", old, false, {}, 8);
     row("inertial tracking off", "inertial available", "no", "Hybrid tracking is not available", false);
     row("no sensor on a body", "inertial body_of_sensor " + S1, "none", "No hybrid body is available", false);
     row("a sensor unknown: the next one decides", "inertial sensor d01", "-", "", true,
@@ -144,6 +148,7 @@ void tst_InertialCalibrationDlg::reasons_data()
     row("no body calibratable", "standard number_of_bodies", "0", "No active body with hybrid calibration found", false);
     row("cold sensors, a warning", "inertial warmup_status", "0.9", cold, true);
     row("warmth unknown: a warning", "inertial warmup_status", "-", cold, true, {"Could not get warmup status"});
+    row("warm-up unknown: none shown", "inertial warmup", "-", "", true, {"Could not get warmup status"});
     row("a body's sensor unreadable", "body inertial_sensor standard b02", "x", "", true,
         {"Could not get sensor of body: standard b02"});
     row("a body's activity unknown", "body active standard b02", "-", "", true,
@@ -153,7 +158,7 @@ void tst_InertialCalibrationDlg::reasons_data()
         {"Error ln751: Unable to get informations of sensor"});
     row("a sensor's place unknown", "inertial sensor_handeye " + S1, "-", "", true,
         {"Could not get hybrid calibration of sensor: " + S1});
-    row("locked: lock, no reason", "config is_changeable", "no", "", false);
+    row("locked: lock, no reason", "config is_changeable", "no", "", false, {}, 21, true);
 }
 
 void tst_InertialCalibrationDlg::reasons()
@@ -164,6 +169,7 @@ void tst_InertialCalibrationDlg::reasons()
     QFETCH(QString, reason);
     QFETCH(bool, usable);
     QFETCH(QStringList, messages);
+    QFETCH(bool, locked);
 
     versions.minor = minor;
     answer == "-" ? fake->fail(line) : fake->reply(line, answer);
@@ -179,7 +185,8 @@ void tst_InertialCalibrationDlg::reasons()
         QCOMPARE(w<QLabel>("label_error")->isVisible(), !reason.isEmpty());
         QCOMPARE(w("pushButton_calibrate")->isEnabled(), usable);
         QCOMPARE(w<QTableWidget>("tableWidget")->isEnabled(), usable);
-        QCOMPARE(dlg->windowIcon().cacheKey() != owner->windowIcon().cacheKey(), line == "config is_changeable");
+        QCOMPARE(dlg->windowIcon().cacheKey() != owner->windowIcon().cacheKey(), locked);
+        QCOMPARE(w<QProgressBar>("progressBar_warmup")->isVisible(), false);
         QTest::keyClick(dlg, Qt::Key_Escape);   // no run: leaves
         QVERIFY(!dlg->isVisible());
     });
