@@ -205,6 +205,7 @@ void tst_CalibrationProgressDlg::two_steps_without_pause_mode()
 
 void tst_CalibrationProgressDlg::two_steps_with_pause_mode()
 {
+    versions.minor = 4;   // the first with step durations
     make(true, 2, "no 0");
     fake->reply("norvane get cal step_pause align s01", "norvane set cal step_pause align s01 yes 2");
     fake->reply("norvane get cal step_pause align s02", "norvane set cal step_pause align s02 yes 0");

@@ -138,7 +138,7 @@ void tst_FilterDialog::closed_data()
     const QString bodies = "6DOF filter for standard bodies not available";
     QTest::newRow("locked, standard bodies") << 21 << 0 << QByteArray("config is_changeable=no") << standard
                                              << bodies << true;
-    QTest::newRow("locked, wands") << 21 << 1 << QByteArray("config is_changeable=no") << wand
+    QTest::newRow("1.9, the first to lock, no filter yet") << 9 << 1 << QByteArray("config is_changeable=no") << lock
                                    << "6DOF filter for wands not available" << true;
     QTest::newRow("no filter for wands") << 21 << 1 << QByteArray("filter6d available wand=no") << wand
                                          << "6DOF filter for wands not available" << false;
@@ -148,7 +148,7 @@ void tst_FilterDialog::closed_data()
                                                   << bodies << false;
     QTest::newRow("no calibrated wand") << 21 << 1 << QByteArray("wand number_of_devices=0")
                                         << wand + Lines{"wand number_of_devices"} << "No wand is calibrated" << false;
-    QTest::newRow("no calibrated body") << 21 << 0 << QByteArray("body number_of_bodies standard=0")
+    QTest::newRow("1.12, the first with a filter, no calibrated body") << 12 << 0 << QByteArray("body number_of_bodies standard=0")
         << standard + Lines{"body number_of_bodies standard"} << "No standard body is calibrated" << false;
 }
 
