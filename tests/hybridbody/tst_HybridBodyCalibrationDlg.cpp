@@ -165,7 +165,7 @@ Lines tst_HybridBodyCalibrationDlg::calibrate(int index, const B& button, QStrin
                                           "label_residual", "label_sensorDelay"})
                     *shown += text(w, label) + '|';
                 auto* table = in<QTableWidget>(w, "tableWidget");
-                *shown += QString::number(table->isVisible());
+                *shown += in<QPushButton>(w, "pushButton_showDetails")->text() + QString::number(table->isVisible());
                 in<QPushButton>(w, "pushButton_showDetails")->click();
                 *shown += in<QPushButton>(w, "pushButton_showDetails")->text() + QString::number(table->isVisible());
                 for (int i = 0; i < 9; ++i)   // row by row
@@ -204,7 +204,7 @@ void tst_HybridBodyCalibrationDlg::calibration_data()
     };
     const Lines accepted = result(s, {"norvane inertial accept_new_sensor_handeye " + s});
     const QList<B> usual = {"tracking", "none", "tracking", "tracking", "none"};
-    const QString shown = "standard body 0%1|Norvane|IMU 3|0.46|%2|0Hide &details1%3";
+    const QString shown = "standard body 0%1|Norvane|IMU 3|0.46|%2|Show &details0Hide &details1%3";
     const QString matrix = " 0.1000 0.4000 0.7000 0.2000 0.5000 0.8000 0.3000 0.6000 0.9124", b1 = "1 (left hand)|10231";
     QTest::newRow("accepted, matrix by columns") << 0 << usual << B() << B("pushButton_ok")
         << run(s, true) + accepted << shown.arg(b1, "12.30", matrix) << QStringList();
