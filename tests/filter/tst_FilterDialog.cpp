@@ -77,6 +77,7 @@ private:
     void open(const std::function<void()>& steps, int type = 0);
     QStringList enabled() const;
     QStringList items(const char* combo) const;
+    void script(QByteArray lines = {});   // "line=answer|...", or the whole system above
 
     FilterDialog* dlg = nullptr;
 };
@@ -86,9 +87,15 @@ void tst_FilterDialog::init()
     start();
     fake->set_stateful(true);
     dlg = new FilterDialog(fake, owner, &versions);
-    QByteArray script = Script + ('|' + QByteArray(BodyScript).replace(" B", " standard b01"));
-    script += '|' + QByteArray(BodyScript).replace(" B", " standard b03");
-    for (const QByteArray& entry : script.replace('\n', '|').split('|'))
+    script();
+}
+
+void tst_FilterDialog::script(QByteArray lines)
+{
+    if (lines.isEmpty())
+        lines = Script + ('|' + QByteArray(BodyScript).replace(" B", " standard b01")) + '|'
+                + QByteArray(BodyScript).replace(" B", " standard b03");
+    for (const QByteArray& entry : lines.replace('\n', '|').split('|'))
         fake->reply(entry.left(entry.indexOf('=')), entry.mid(entry.indexOf('=') + 1));
 }
 
@@ -161,7 +168,7 @@ void tst_FilterDialog::closed()
     QFETCH(QString, text);
     QFETCH(bool, lockIcon);
     versions.minor = minor;
-    fake->reply(reply.left(reply.indexOf('=')), reply.mid(reply.indexOf('=') + 1));
+    script(reply);
     open([&] {
         QCOMPARE(enabled(), QStringList());
         QCOMPARE(w<QLabel>("label_error")->text(), "<b><font color=red>" + text + "</font></b>");
@@ -169,6 +176,13 @@ void tst_FilterDialog::closed()
         QCOMPARE(!dlg->windowIcon().isNull(), lockIcon);
     }, type);
     QCOMPARE(fake->lines(), lines);
+    // Once the controller allows it, the next opening keeps nothing of this one.
+    versions.minor = 21;
+    script();
+    open([&] {
+        QCOMPARE(enabled(), AllControls);
+        QCOMPARE(w<QLabel>("label_error")->text() + QString::number(dlg->windowIcon().isNull()), "1");
+    });
 }
 
 void tst_FilterDialog::openingAndBodyChange()
