@@ -367,6 +367,7 @@ void tst_AddInertialSensorDlg::acceptAllAndClicks()
                                          "C0008 IMU6 x10 0 1 0"));
     });
     QCOMPARE(box, QString("Warning: Please select a channel to scan"));
+    open([&] { QCOMPARE(rows().size() + w("pushButton_apply")->isEnabled(), 0); });   // the next opening lists nothing
     QCOMPARE(fake->message_texts(), QStringList());
 }
 
