@@ -164,6 +164,8 @@ void tst_InertialStatusBar::polls()
     status = std::make_unique<InertialStatusBar>(fake, owner, &versions);
     QStringList seen{state() + QString(" [%1]").arg(fake->lines().size())};
     answer(after);
+    // The button's text tells start from stop: it is shown, beside the icon.
+    QCOMPARE(status->findChild<QToolButton*>("pushButton_startWarmup")->toolButtonStyle(), Qt::ToolButtonTextBesideIcon);
     // The bar's own timers drive the polls, as they do in the host.
     QCOMPARE(timer("statusTimer")->interval() + timer("progressTimer")->interval(), 6000);
     status->hide();   // a status poll that finds sensors shows the bar again
