@@ -33,7 +33,7 @@ private:
     // Runs a calibration; `inside` runs in its modal loop, which is then
     // ended. Without `inside` the dialog must not show.
     int run(const std::function<void()>& inside, const QString& type = "align");
-    void tick() { QMetaObject::invokeMethod(dlg, "update_cal_status"); }
+    void tick() { QMetaObject::invokeMethod(dlg->findChild<QTimer*>(), "timeout"); }   // the poll, by its timer
     // Notes what the next countdown shows and presses `button`, or lets it run out.
     void on_countdown(const char* button = "pushButton_2");
 
