@@ -10,11 +10,9 @@
 
 #include <functional>
 
-#include "FakeController.h"
-#include "ModalDialogHelper.h"
+#include "DialogFixture.h"
 #include "TypicalSystem.h"
 #include "addsensor/AddInertialSensorDlg.h"
-#include "module/BackendVersions.h"
 #include "settings/ChannelComboBox.h"
 
 namespace {
@@ -29,15 +27,13 @@ const QByteArray Add8 = "norvane inertial add_sensor NRV IMU6 'C0008' 35";
 // hears two new sensors (S0007, C0008) and a paired one (S0001) on channel
 // 35: scanning in each mode one channel a tick, what stops a scan, and
 // adding the accepted sensors to free bodies.
-class tst_AddInertialSensorDlg : public QObject
+class tst_AddInertialSensorDlg : public QObject, DialogFixture
 {
     Q_OBJECT
 
 private slots:
     void init();
-    void cleanup();
-    void scanModes_data();
-    void scanModes();
+    void cleanup() { finish(); }
     void usbScanAsksInOrder();
     void scan_data();
     void scan();
@@ -54,27 +50,24 @@ private:
     template <class T = QWidget>
     T* w(const char* name) const { return dialog->findChild<T*>(QLatin1String(name)); }
     // Starts a scan in `mode`, ticks until it is over (Cancel after `cancel`
-    // ticks); returns whether Cancel was usable, then the progress after each tick.
-    QList<int> scan(const QString& mode, int cancel = -1);
+    // ticks); returns whether Cancel was usable. Meanwhile `labels` gets the
+    // label at each scan command, `bars` the progress at each poll.
+    bool scan(const QString& mode, int cancel = -1);
     // The label, the progress and whether Scan, Exit and the modes are usable.
     QString state() const;
     // The found sensors as "id vendor model channel accept" rows.
     QStringList rows() const;
     void answer_box(int button);
 
-    FakeController* fake = nullptr;
-    BackendVersions versions;
-    QDialog* parent = nullptr;
     AddInertialSensorDlg* dialog = nullptr;
     QString box;
+    QStringList labels;
+    QStringList bars;
 };
 
 void tst_AddInertialSensorDlg::init()
 {
-    fake = new FakeController;
-    versions = BackendVersions();
-    versions.major = 1;
-    versions.minor = 21;
+    start();
     TypicalSystem().install(*fake);
     fake->set_stateful(true);
     for (const QByteArray setting : {"inertial number_of_scan_channels 1", "inertial number_of_scan_channels 0",
@@ -88,17 +81,11 @@ void tst_AddInertialSensorDlg::init()
     fake->reply("inertial scanned_sensor d02", "NRV IMU9 'S0001' 35");
     fake->reply("inertial scanned_sensor d03", "NRV IMU6 'C0008' 35");
     box.clear();
-    parent = new QDialog;
-    dialog = new AddInertialSensorDlg(fake, parent, &versions);
-}
-
-void tst_AddInertialSensorDlg::cleanup()
-{
-    delete parent;
-    delete fake;
-    QCOMPARE(ModalDialogHelper::pending(), 0);
-    ModalDialogHelper::clear_pending();
-    QCOMPARE(ModalDialogHelper::leaked_windows(), QStringList());
+    labels.clear();
+    bars.clear();
+    dialog = new AddInertialSensorDlg(fake, owner, &versions);
+    fake->when_asked("norvane inertial scan_sensors", [this] { labels << w<QLabel>("label_channel")->text(); });
+    fake->when_asked(Scanned, [this] { bars << QString::number(w<QProgressBar>("progressBar_overall")->value()); });
 }
 
 void tst_AddInertialSensorDlg::open(const std::function<void()>& steps)
@@ -110,19 +97,18 @@ void tst_AddInertialSensorDlg::open(const std::function<void()>& steps)
     dialog->update_and_exec();
 }
 
-QList<int> tst_AddInertialSensorDlg::scan(const QString& mode, int cancel)
+bool tst_AddInertialSensorDlg::scan(const QString& mode, int cancel)
 {
     auto* modes = w<QComboBox>("comboBox_scanMode");
     modes->setCurrentIndex(modes->findText(mode));
     w<QPushButton>("pushButton_scan")->click();
-    QList<int> progress{w("pushButton_cancel")->isEnabled()};
+    const bool cancellable = w("pushButton_cancel")->isEnabled();
     for (int tick = 0; !w("pushButton_scan")->isEnabled() && tick < 100; ++tick) {
         if (tick == cancel)
             w<QPushButton>("pushButton_cancel")->click();
         QMetaObject::invokeMethod(dialog, "scan_channels");
-        progress << w<QProgressBar>("progressBar_overall")->value();
     }
-    return progress;
+    return cancellable;
 }
 
 QString tst_AddInertialSensorDlg::state() const
@@ -154,38 +140,6 @@ void tst_AddInertialSensorDlg::answer_box(int button)
     });
 }
 
-void tst_AddInertialSensorDlg::scanModes_data()
-{
-    QTest::addColumn<QByteArray>("transceivers");   // empty: the query fails
-    QTest::addColumn<QString>("modes");
-
-    QTest::newRow("one transceiver") << QByteArray("1") << "default channels, single channel, all channels, USB";
-    QTest::newRow("none") << QByteArray("0") << "USB";
-    QTest::newRow("query fails") << QByteArray() << "USB";
-}
-
-void tst_AddInertialSensorDlg::scanModes()
-{
-    QFETCH(QByteArray, transceivers);
-    QFETCH(QString, modes);
-
-    transceivers.isEmpty() ? fake->fail("inertial number_of_transceivers")
-                           : fake->reply("inertial number_of_transceivers", transceivers);
-    QStringList seen;
-    open([&] {
-        auto* combo = w<QComboBox>("comboBox_scanMode");
-        for (int i = 0; i < combo->count(); ++i)
-            seen << combo->itemText(i);
-        seen << combo->currentText() << QString("%1%2%3%4").arg(w("comboBox_channel")->isEnabled())
-                     .arg(w("pushButton_cancel")->isEnabled()).arg(w("pushButton_apply")->isEnabled())
-                     .arg(dialog->focusWidget() == w("pushButton_scan"));
-    });
-    // USB, always there, is the one chosen; nothing to cancel or apply yet.
-    QCOMPARE(seen.join(", "), modes + ", USB, 0001");
-    QCOMPARE(fake->lines(), QList<QByteArray>{"inertial number_of_transceivers"});
-    QCOMPARE(fake->message_texts(), QStringList());
-}
-
 void tst_AddInertialSensorDlg::usbScanAsksInOrder()
 {
     QString during;
@@ -198,6 +152,8 @@ void tst_AddInertialSensorDlg::usbScanAsksInOrder()
         QMetaObject::invokeMethod(dialog, "scan_channels");
     });
     QCOMPARE(during, QString(", 0%, 0000"));
+    // While the controller scans, the label says what; while it is polled, the bar shows the share done.
+    QCOMPARE(labels.join('|') + ' ' + bars.join(' '), QString("Scanning USB... 100 100"));
     QCOMPARE(fake->lines(), (QList<QByteArray>{"inertial number_of_sensors", "inertial sensor d01",
         "inertial sensor d02", "inertial sensor d03", "inertial sensor d04", "inertial sensor d05",
         "inertial number_of_scan_channels 1", "inertial scan_transceiver_channel t01 usb",
@@ -222,15 +178,15 @@ void tst_AddInertialSensorDlg::scan_data()
     QTest::addColumn<QString>("mode");
     QTest::addColumn<int>("cancel");          // after this many ticks, -1: never
     QTest::addColumn<QString>("scanned");     // channels, in order (the first and last three of many)
-    QTest::addColumn<QString>("progress");    // after each tick (the first and last three of many)
+    QTest::addColumn<QString>("progress");    // at each poll (the first and last three of many)
     QTest::addColumn<QString>("end");         // state(), and whether Cancel was usable during the scan
 
-    QTest::newRow("default channels") << "default channels" << -1 << "35 55" << "50 100"
+    QTest::newRow("default channels") << "default channels" << -1 << "35 55" << "50 50 100"
                                       << "Scanning channels done, 100%, 111 1";
-    QTest::newRow("all channels, one a tick") << "all channels" << -1 << "2 3 4 79 80 81" << "1 3 4 98 99 100"
+    QTest::newRow("all channels, one a tick") << "all channels" << -1 << "2 3 4 79 80 81" << "1 1 3 98 99 100"
                                               << "Scanning channels done, 100%, 111 1";
-    QTest::newRow("single channel 47") << "single channel" << -1 << "47" << "100" << "Scanning channel done, 100%, 111 0";
-    QTest::newRow("cancelled: seen at the next tick") << "all channels" << 2 << "2 3" << "1 3 0"
+    QTest::newRow("single channel 47") << "single channel" << -1 << "47" << "100 100" << "Scanning channel done, 100%, 111 0";
+    QTest::newRow("cancelled: seen at the next tick") << "all channels" << 2 << "2 3" << "1 1 3"
                                                       << "Scanning channels aborted, 0%, 111 1";
 }
 
@@ -243,7 +199,7 @@ void tst_AddInertialSensorDlg::scan()
     QFETCH(QString, end);
 
     fake->replies(Scanned, {"-1", "0"});
-    QList<int> ticks;
+    bool cancellable = false;
     open([&] {
         auto* modes = w<QComboBox>("comboBox_scanMode");
         modes->setCurrentIndex(modes->findText(mode));
@@ -255,21 +211,20 @@ void tst_AddInertialSensorDlg::scan()
             pick->table()->setCurrentCell(4, 6);
             QTest::keyClick(pick->table(), Qt::Key_Return);
         }
-        ticks = scan(mode, cancel);
+        cancellable = scan(mode, cancel);
         QCOMPARE(pick->isEnabled(), chooser);   // given back as it was
     });
-    const QString cancellable = QString::number(ticks.takeFirst());
-    auto shorten = [](QStringList list) { return list.size() > 6 ? list.mid(0, 3) + list.mid(list.size() - 3) : list; };
-    QStringList channels;
-    for (const QByteArray& line : fake->lines(FakeController::SetValue))
-        if (line.startsWith("inertial scan_transceiver_channel"))
+    auto shorten = [](QStringList list) { return (list.size() > 6 ? list.mid(0, 3) + list.mid(list.size() - 3) : list).join(' '); };
+    QStringList channels, shown;
+    for (const QByteArray& line : fake->lines())
+        if (line.startsWith("inertial scan_transceiver_channel t01 NRV Dongle 'T1001' ")) {
             channels << line.mid(line.lastIndexOf(' ') + 1);
-    QStringList values;
-    for (int value : ticks)
-        values << QString::number(value);
-    QCOMPARE(shorten(channels).join(' '), scanned);
-    QCOMPARE(shorten(values).join(' '), progress);
-    QCOMPARE(state() + ' ' + cancellable, end);
+            shown << "Scanning channel: " + channels.last() + "...";
+        }
+    QCOMPARE(labels, shown);
+    QCOMPARE(shorten(channels), scanned);
+    QCOMPARE(shorten(bars), progress);
+    QCOMPARE(state() + ' ' + QString::number(cancellable), end);
     QCOMPARE(fake->count("inertial transceiver d01"), 1);
     QCOMPARE(fake->message_texts(), QStringList());
 }
@@ -279,27 +234,33 @@ void tst_AddInertialSensorDlg::scanFailures_data()
     QTest::addColumn<QByteArray>("change");   // "LINE" fails, "LINE=ANSWER" answers so
     QTest::addColumn<QString>("messages");
     QTest::addColumn<QByteArray>("last");     // the last line sent
-    QTest::addColumn<int>("rows");
+    QTest::addColumn<QString>("marks");       // the rows' Accept cells: o to accept, - already added
 
     const QByteArray reset = "inertial number_of_scan_channels 0";
-    QTest::newRow("sensor count") << QByteArray("inertial number_of_sensors") << "Error: Unable to get numbers of sensor"
-                                  << reset << 3;
+    QTest::newRow("known sensors unknown: none inert") << QByteArray("inertial number_of_sensors")
+                                                       << "Error: Unable to get numbers of sensor" << reset << "ooo";
+    QTest::newRow("another known sensor unknown") << QByteArray("inertial sensor d02")
+                                                  << "Error: Unable to get informations of sensor" << reset << "o-o";
     QTest::newRow("scan slots") << QByteArray("inertial number_of_scan_channels 1") << "Error: Unable to set channels "
-                                   "to scan" << QByteArray("inertial number_of_scan_channels 1") << 0;
+                                   "to scan" << QByteArray("inertial number_of_scan_channels 1") << "";
     QTest::newRow("usb slot") << QByteArray("inertial scan_transceiver_channel t01 usb") << "Error: Unable to scan channel "
-                                 "of dongle 01" << QByteArray("inertial scan_transceiver_channel t01 usb") << 0;
+                                 "of dongle 01" << QByteArray("inertial scan_transceiver_channel t01 usb") << "";
     QTest::newRow("scan not sent") << QByteArray("norvane inertial scan_sensors") << "Error: Unable to scan sensors"
-                                   << QByteArray("norvane inertial scan_sensors") << 0;
-    QTest::newRow("scan refused") << QByteArray("norvane inertial scan_sensors=norvane busy") << "" << reset << 0;
-    QTest::newRow("scanned count") << Scanned << "Error: Unable to get numbers of sensors to scan" << Scanned << 0;
-    QTest::newRow("still scanning after 100 polls") << Scanned + "=-1" << "" << reset << 0;
+                                   << QByteArray("norvane inertial scan_sensors") << "";
+    QTest::newRow("scan refused") << QByteArray("norvane inertial scan_sensors=norvane busy") << "" << reset << "";
+    QTest::newRow("scanned count") << Scanned << "Error: Unable to get numbers of sensors to scan" << Scanned << "";
+    QTest::newRow("still scanning after 100 polls") << Scanned + "=-1" << "" << reset << "";
     QTest::newRow("a scanned sensor") << QByteArray("inertial scanned_sensor d02") << "Error: Unable to get informations "
-                                         "of sensor to add" << reset << 1;
+                                         "of sensor to add" << reset << "o";
     QTest::newRow("its model") << QByteArray("inertial sensor_model_desc NRV IMU6") << "Error: Unable to get description "
-                                  "of sensor to add" << reset << 2;
-    QTest::newRow("no more sensors") << QByteArray("inertial scanned_sensor d02=") << "" << reset << 1;
-    QTest::newRow("a short line is skipped") << QByteArray("inertial scanned_sensor d02=NRV IMU9") << "" << reset << 2;
-    QTest::newRow("resetting the slots") << reset << "Error: Unable to set channels to scan" << reset << 3;
+                                  "of sensor to add" << reset << "o-";
+    QTest::newRow("its vendor") << QByteArray("inertial sensor_vendor_desc NRV") << "Error: Unable to get vendor "
+                                   "description of sensor to add" << reset << "";
+    QTest::newRow("no more sensors") << QByteArray("inertial scanned_sensor d02=") << "" << reset << "o";
+    QTest::newRow("a short line is skipped") << QByteArray("inertial scanned_sensor d02=NRV IMU9") << "" << reset << "oo";
+    QTest::newRow("heard twice, listed once") << QByteArray("inertial scanned_sensor d03=NRV IMU9 'S0007' 35") << ""
+                                              << reset << "o-";
+    QTest::newRow("resetting the slots") << reset << "Error: Unable to set channels to scan" << reset << "o-o";
 }
 
 void tst_AddInertialSensorDlg::scanFailures()
@@ -307,14 +268,17 @@ void tst_AddInertialSensorDlg::scanFailures()
     QFETCH(QByteArray, change);
     QFETCH(QString, messages);
     QFETCH(QByteArray, last);
-    QFETCH(int, rows);
+    QFETCH(QString, marks);
 
     const int equals = change.indexOf('=');
     equals < 0 ? fake->fail(change) : fake->reply(change.left(equals), change.mid(equals + 1));
-    open([&] { QCOMPARE(scan("USB").size(), 2); });
+    open([&] { scan("USB"); });
     QCOMPARE(fake->message_texts().join('\n'), messages);
     QCOMPARE(fake->lines().last(), last);
-    QCOMPARE(this->rows().size(), rows);
+    QString seen;
+    for (const QString& row : rows())
+        seen += row.right(1);
+    QCOMPARE(seen, marks);
     // An error stop ends in the "done" words too: the message told the user.
     QCOMPARE(state(), QString("Scanning USB done, 100%, 111"));
     QCOMPARE(fake->count(Scanned), change == Scanned + "=-1" ? 100 : fake->count(Scanned));
@@ -322,12 +286,25 @@ void tst_AddInertialSensorDlg::scanFailures()
 
 void tst_AddInertialSensorDlg::haltedScanAndReopening()
 {
+    fake->reply("inertial number_of_transceivers", "1");
     fake->fail("inertial transceiver d01");
-    QString refused;
+    // The modes and the one chosen, state(), and whether the channel, Cancel
+    // and Apply are usable and Scan has the focus.
+    const auto opened = [this] {
+        auto* modes = w<QComboBox>("comboBox_scanMode");
+        QStringList texts;
+        for (int i = 0; i < modes->count(); ++i)
+            texts << modes->itemText(i);
+        return texts.join(", ") + " (" + modes->currentText() + ") " + state() + QString(" %1%2%3%4")
+            .arg(w("comboBox_channel")->isEnabled()).arg(w("pushButton_cancel")->isEnabled())
+            .arg(w("pushButton_apply")->isEnabled()).arg(dialog->focusWidget() == w("pushButton_scan"));
+    };
+    QStringList seen;
     open([&] {
+        seen << opened();
         // Without the first transceiver's name no radio scan starts.
-        QCOMPARE(scan("default channels"), QList<int>{0});   // nothing to cancel, no tick
-        refused = w<QLabel>("label_channel")->text();
+        QVERIFY(!scan("default channels"));   // nothing to cancel, no tick
+        seen << w<QLabel>("label_channel")->text();
         fake->reply("inertial transceiver d01", "NRV Dongle 'T1001'");
         w<QPushButton>("pushButton_scan")->click();
         QVERIFY(!dialog->close());   // refused while the scan can be cancelled
@@ -337,21 +314,23 @@ void tst_AddInertialSensorDlg::haltedScanAndReopening()
         QCOMPARE(fake->count("inertial number_of_sensors") + fake->count("norvane inertial scan_sensors"), 1);
         dialog->hide();
     });
-    QCOMPARE(refused, QString("Scanning channel(s) aborted, could not get informations of dongle 1"));
     QCOMPARE(fake->message_texts(), QStringList{"Error: Unable to get informations of dongle 1"});
-    // The next opening starts afresh, and F3 scans as the button does.
-    QString found;
+    // The next opening starts afresh, without radio when the transceivers
+    // cannot be counted, and F3 scans as the button does.
+    fake->fail("inertial number_of_transceivers");
     open([&] {
-        found = state() + ' ' + w<QComboBox>("comboBox_scanMode")->currentText() + ' '
-                + QString::number(w<QComboBox>("comboBox_scanMode")->count());
+        seen << opened();
         QTest::keyClick(dialog, Qt::Key_A);   // only F3 scans
-        found += QString::number(w("pushButton_scan")->isEnabled());
+        QTest::keyClick(dialog, Qt::Key_F3, Qt::ShiftModifier);
+        seen << QString::number(w("pushButton_scan")->isEnabled());
         QTest::keyClick(dialog, Qt::Key_F3);
         QMetaObject::invokeMethod(dialog, "scan_channels");
-        found += ' ' + QString::number(rows().size());
+        seen.last() += QString::number(rows().size());
         QVERIFY(dialog->close());
     });
-    QCOMPARE(found, QString(", -1%, 111 USB 41 3"));   // a reset bar shows no value
+    QCOMPARE(seen, QStringList({"default channels, single channel, all channels, USB (USB) , -1%, 111 0001",
+                                "Scanning channel(s) aborted, could not get informations of dongle 1",
+                                "USB (USB) , -1%, 111 0001", "13"}));   // a reset bar shows no value
     QCOMPARE(fake->count("norvane inertial scan_sensors"), 1);
 }
 
@@ -388,6 +367,7 @@ void tst_AddInertialSensorDlg::acceptAllAndClicks()
                                          "C0008 IMU6 x10 0 1 0"));
     });
     QCOMPARE(box, QString("Warning: Please select a channel to scan"));
+    open([&] { QCOMPARE(rows().size() + w("pushButton_apply")->isEnabled(), 0); });   // the next opening lists nothing
     QCOMPARE(fake->message_texts(), QStringList());
 }
 
@@ -418,6 +398,8 @@ void tst_AddInertialSensorDlg::apply_data()
     QTest::newRow("not sent") << false << Add7 << QList<QByteArray>{Add7} << "x-x Error: Unable to add sensor";
     QTest::newRow("maximum unknown") << false << QByteArray("standard max_number_of_bodies") << QList<QByteArray>{}
                                      << "x-x Error: Unable to get max number of bodies";
+    QTest::newRow("bodies unknown") << false << QByteArray("standard number_of_bodies") << QList<QByteArray>{Add7}
+                                    << "x-x Error: Unable to get number of bodies";
     QTest::newRow("calibration unknown") << false << QByteArray("body calibrated standard b01") << QList<QByteArray>{Add7}
                                          << "x-x Error: Unable to get calibration of body";
     QTest::newRow("sensor of a body unknown") << false << QByteArray("body inertial_sensor standard b01")

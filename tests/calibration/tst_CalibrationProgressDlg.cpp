@@ -8,20 +8,18 @@
 
 #include <functional>
 
-#include "FakeController.h"
-#include "ModalDialogHelper.h"
+#include "DialogFixture.h"
 #include "calibration/CalibrationProgressDlg.h"
-#include "module/BackendVersions.h"
 
 using Lines = QList<QByteArray>;
 
-class tst_CalibrationProgressDlg : public QObject
+class tst_CalibrationProgressDlg : public QObject, DialogFixture
 {
     Q_OBJECT
 
 private slots:
     void init();
-    void cleanup();
+    void cleanup() { finish(); }
     void runs_data();
     void runs();
     void declined_countdown_starts_nothing();
@@ -35,39 +33,23 @@ private:
     // Runs a calibration; `inside` runs in its modal loop, which is then
     // ended. Without `inside` the dialog must not show.
     int run(const std::function<void()>& inside, const QString& type = "align");
-    void tick() { QMetaObject::invokeMethod(dlg, "update_cal_status"); }
+    void tick() { QMetaObject::invokeMethod(dlg->findChild<QTimer*>(), "timeout"); }   // the poll, by its timer
     // Notes what the next countdown shows and presses `button`, or lets it run out.
     void on_countdown(const char* button = "pushButton_2");
 
-    FakeController* fake = nullptr;
-    BackendVersions versions;
-    QDialog* parent = nullptr;
     CalibrationProgressDlg* dlg = nullptr;
     QList<int> countdowns;
 };
 
 void tst_CalibrationProgressDlg::init()
 {
-    fake = new FakeController;
-    versions = BackendVersions();
-    versions.major = 1;
-    versions.minor = 21;
-    parent = new QDialog;
+    start();
     countdowns.clear();
-}
-
-void tst_CalibrationProgressDlg::cleanup()
-{
-    delete parent;
-    delete fake;
-    QCOMPARE(ModalDialogHelper::pending(), 0);
-    ModalDialogHelper::clear_pending();
-    QCOMPARE(ModalDialogHelper::leaked_windows(), QStringList());
 }
 
 void tst_CalibrationProgressDlg::make(bool pause_mode, int steps, const QByteArray& pause)
 {
-    dlg = new CalibrationProgressDlg(fake, parent, &versions, pause_mode);
+    dlg = new CalibrationProgressDlg(fake, owner, &versions, pause_mode);
     for (const QByteArray type : {"align", "reflex_scan"}) {
         fake->reply("cal type_desc " + type, "\"Sensor " + type + "\"");
         fake->reply("cal number_of_steps " + type, QByteArray::number(steps));
@@ -223,6 +205,7 @@ void tst_CalibrationProgressDlg::two_steps_without_pause_mode()
 
 void tst_CalibrationProgressDlg::two_steps_with_pause_mode()
 {
+    versions.minor = 4;   // the first with step durations
     make(true, 2, "no 0");
     fake->reply("norvane get cal step_pause align s01", "norvane set cal step_pause align s01 yes 2");
     fake->reply("norvane get cal step_pause align s02", "norvane set cal step_pause align s02 yes 0");

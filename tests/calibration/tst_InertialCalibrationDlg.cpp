@@ -3,6 +3,7 @@
 #include <QCheckBox>
 #include <QHeaderView>
 #include <QLabel>
+#include <QMessageBox>
 #include <QProgressBar>
 #include <QPushButton>
 #include <QTableWidget>
@@ -10,10 +11,8 @@
 #include <algorithm>
 #include <functional>
 
-#include "FakeController.h"
-#include "ModalDialogHelper.h"
+#include "DialogFixture.h"
 #include "calibration/InertialCalibrationDlg.h"
-#include "module/BackendVersions.h"
 
 using Lines = QList<QByteArray>;
 
@@ -27,13 +26,13 @@ QByteArray marked(const QByteArray& sensor, const char* yes_no) { return "inerti
 
 // Three active bodies carry a sensor: left and right can be calibrated, the
 // third's sensor is away; a fourth body is inactive.
-class tst_InertialCalibrationDlg : public QObject
+class tst_InertialCalibrationDlg : public QObject, DialogFixture
 {
     Q_OBJECT
 
 private slots:
     void init();
-    void cleanup();
+    void cleanup() { finish(); }
     void reasons_data();
     void reasons();
     void run_to_residuals();
@@ -42,6 +41,7 @@ private slots:
     void apply_data();
     void apply();
     void warmup();
+    void reopenedIdle();
 
 private:
     template <class T = QPushButton>
@@ -49,7 +49,8 @@ private:
     QTableWidgetItem* cell(int row, int column) const { return w<QTableWidget>("tableWidget")->item(row, column); }
     // Opens the dialog, runs `inside` in its modal loop, then ends it.
     void open(const std::function<void()>& inside);
-    void tick() { QMetaObject::invokeMethod(dlg, "do_measure"); }
+    // The dialog's own timers drive it, as they do when it runs.
+    void tick() { QMetaObject::invokeMethod(timer(200), "timeout"); }
     // The 200 ms measure timer or the 1000 ms warm-up timer.
     QTimer* timer(int ms) const
     {
@@ -59,23 +60,16 @@ private:
     // Calibrates both sensors until the controller reports the end.
     void calibrate(const QList<QByteArray>& statuses);
 
-    FakeController* fake = nullptr;
-    BackendVersions versions;
-    QDialog* parent = nullptr;
     InertialCalibrationDlg* dlg = nullptr;
     QList<int> bars;   // after each tick of calibrate()
 };
 
 void tst_InertialCalibrationDlg::init()
 {
-    fake = new FakeController;
+    start();
     fake->set_stateful(true);
-    versions = BackendVersions();
-    versions.major = 1;
-    versions.minor = 21;
-    parent = new QDialog;
     bars.clear();
-    dlg = new InertialCalibrationDlg(fake, parent, &versions);
+    dlg = new InertialCalibrationDlg(fake, owner, &versions);
     for (const auto& [line, answer] : QList<QPair<QByteArray, QByteArray>>{
              {"config is_changeable", "yes"}, {"inertial available", "yes"}, {"inertial number_of_sensors", "2"},
              {"inertial sensor d01", S3}, {"inertial sensor d02", S1}, {"inertial body_of_sensor " + S3, "none"},
@@ -98,15 +92,6 @@ void tst_InertialCalibrationDlg::init()
         fake->reply("inertial sensor_handeye " + s, "standard b01");
         fake->reply("norvane inertial accept_new_sensor_gyro " + s, "norvane ok");
     }
-}
-
-void tst_InertialCalibrationDlg::cleanup()
-{
-    delete parent;
-    delete fake;
-    QCOMPARE(ModalDialogHelper::pending(), 0);
-    ModalDialogHelper::clear_pending();
-    QCOMPARE(ModalDialogHelper::leaked_windows(), QStringList());
 }
 
 void tst_InertialCalibrationDlg::open(const std::function<void()>& inside)
@@ -137,29 +122,44 @@ void tst_InertialCalibrationDlg::reasons_data()
 {
     QTest::addColumn<int>("minor");
     QTest::addColumn<QByteArray>("line");
-    QTest::addColumn<QByteArray>("answer");
+    QTest::addColumn<QByteArray>("answer");   // "-": the line fails
     QTest::addColumn<QString>("reason");
     QTest::addColumn<bool>("usable");
+    QTest::addColumn<QStringList>("messages");   // reported, or shown in a box
+    QTest::addColumn<bool>("locked");            // the lock for an icon
 
-    QTest::newRow("ready") << 21 << QByteArray() << QByteArray() << "" << true;
-    QTest::newRow("older than 1.12") << 11 << QByteArray() << QByteArray()
-                                     << "This controller does not support hybrid sensors - please update your controller"
-                                     << false;
-    QTest::newRow("inertial tracking off") << 21 << QByteArray("inertial available") << QByteArray("no")
-                                           << "Hybrid tracking is not available" << false;
-    QTest::newRow("no sensor on a body") << 21 << "inertial body_of_sensor " + S1 << QByteArray("none")
-                                         << "No hybrid body is available" << false;
-    QTest::newRow("no room calibration") << 21 << QByteArray("cal available inertial_gyro") << QByteArray("no")
-                                         << "No valid room calibration" << false;
-    QTest::newRow("no body calibratable") << 21 << QByteArray("standard number_of_bodies") << QByteArray("0")
-                                          << "No active body with hybrid calibration found" << false;
-    QTest::newRow("cold sensors, a warning") << 21 << QByteArray("inertial warmup_status") << QByteArray("0.9")
-                                             << "Not all sensors have been warmed up, to get a valid calibration please "
-                                                "start the warmup!" << true;
-    QTest::newRow("a body's sensor unreadable") << 21 << QByteArray("body inertial_sensor standard b02") << QByteArray("x")
-                                                << "" << true;
-    QTest::newRow("locked: lock, no reason") << 21 << QByteArray("config is_changeable") << QByteArray("no") << ""
-                                             << false;
+    const QString cold = "Not all sensors have been warmed up, to get a valid calibration please start the warmup!";
+    const auto row = [](const char* name, const QByteArray& line, const QByteArray& answer, const QString& reason,
+                        bool usable, const QStringList& messages = {}, int minor = 21, bool locked = false) {
+        QTest::newRow(name) << minor << line << answer << reason << usable << messages << locked;
+    };
+    const QString old = "This controller does not support hybrid sensors - please update your controller";
+    row("ready", {}, {}, "", true);
+    row("1.12, the first with inertial sensors", {}, {}, "", true, {}, 12);
+    row("older than 1.12", {}, {}, old, false, {}, 11);
+    row("1.9 locked: the lock alone", "config is_changeable", "no", "", false, {}, 9, true);
+    row("1.8 cannot lock", "config is_changeable", "no", old, false, {}, 8);
+    row("inertial tracking off", "inertial available", "no", "Hybrid tracking is not available", false);
+    row("no sensor on a body", "inertial body_of_sensor " + S1, "none", "No hybrid body is available", false);
+    row("a sensor unknown: the next one decides", "inertial sensor d01", "-", "", true,
+        {"Information: Could not get informations of sensor 1"});
+    row("no room calibration", "cal available inertial_gyro", "no", "No valid room calibration", false);
+    row("room calibration unknown: tried", "cal available inertial_gyro", "-", "", true,
+        {"Could not get calibration information"});
+    row("no body calibratable", "standard number_of_bodies", "0", "No active body with hybrid calibration found", false);
+    row("cold sensors, a warning", "inertial warmup_status", "0.9", cold, true);
+    row("warmth unknown: a warning", "inertial warmup_status", "-", cold, true, {"Could not get warmup status"});
+    row("warm-up unknown: none shown", "inertial warmup", "-", "", true, {"Could not get warmup status"});
+    row("a body's sensor unreadable", "body inertial_sensor standard b02", "x", "", true,
+        {"Could not get sensor of body: standard b02"});
+    row("a body's activity unknown", "body active standard b02", "-", "", true,
+        {"Could not get information body standard b02 is active"});
+    row("a body's name unknown", "body desc standard b02", "-", "", true, {"Could not get description of body: standard b02"});
+    row("a sensor's presence unknown", "inertial sensor_present " + S2, "-", "", true,
+        {"Error ln751: Unable to get informations of sensor"});
+    row("a sensor's place unknown", "inertial sensor_handeye " + S1, "-", "", true,
+        {"Could not get hybrid calibration of sensor: " + S1});
+    row("locked: lock, no reason", "config is_changeable", "no", "", false, {}, 21, true);
 }
 
 void tst_InertialCalibrationDlg::reasons()
@@ -169,20 +169,29 @@ void tst_InertialCalibrationDlg::reasons()
     QFETCH(QByteArray, answer);
     QFETCH(QString, reason);
     QFETCH(bool, usable);
+    QFETCH(QStringList, messages);
+    QFETCH(bool, locked);
 
     versions.minor = minor;
-    fake->reply(line, answer);
+    answer == "-" ? fake->fail(line) : fake->reply(line, answer);
+    QStringList shown;
+    if (line == "inertial sensor d01")
+        ModalDialogHelper::when_active("QMessageBox", [&](QWidget* box) {
+            shown << box->windowTitle() + ": " + qobject_cast<QMessageBox*>(box)->text();
+            ModalDialogHelper::close(box);
+        });
     open([&] {
         QCOMPARE(w<QLabel>("label_error")->text(),
                  reason.isEmpty() ? QString() : "<b><font color=red>" + reason + "</font></b>");
         QCOMPARE(w<QLabel>("label_error")->isVisible(), !reason.isEmpty());
         QCOMPARE(w("pushButton_calibrate")->isEnabled(), usable);
         QCOMPARE(w<QTableWidget>("tableWidget")->isEnabled(), usable);
-        QCOMPARE(dlg->windowIcon().cacheKey() != parent->windowIcon().cacheKey(), line == "config is_changeable");
+        QCOMPARE(dlg->windowIcon().cacheKey() != owner->windowIcon().cacheKey(), locked);
+        QCOMPARE(w<QProgressBar>("progressBar_warmup")->isVisible(), false);
         QTest::keyClick(dlg, Qt::Key_Escape);   // no run: leaves
         QVERIFY(!dlg->isVisible());
     });
-    QCOMPARE(fake->message_texts(), answer == "x" ? QStringList{"Could not get sensor of body: standard b02"} : QStringList());
+    QCOMPARE(shown + fake->message_texts(), messages);
 }
 
 void tst_InertialCalibrationDlg::run_to_residuals()
@@ -226,17 +235,21 @@ void tst_InertialCalibrationDlg::run_to_residuals()
 void tst_InertialCalibrationDlg::run_endings_data()
 {
     QTest::addColumn<QString>("action");
-    QTest::addColumn<QByteArray>("stop");       // the reply to stopping
+    QTest::addColumn<QByteArray>("stop");       // the reply to stopping; "-": not sent
     QTest::addColumn<int>("stops");
     QTest::addColumn<bool>("running");
     QTest::addColumn<int>("bar");
+    QTest::addColumn<QStringList>("messages");
 
     const QByteArray ok = "norvane ok";
-    QTest::newRow("err ends it") << "err" << ok << 0 << false << 0;
-    QTest::newRow("Cancel stops") << "cancel" << ok << 1 << false << 0;
-    QTest::newRow("Escape acts as Cancel") << "escape" << ok << 1 << false << 0;
-    QTest::newRow("stop refused") << "cancel" << QByteArray("norvane err 7") << 1 << true << 60;
-    QTest::newRow("closing stops nothing") << "close" << ok << 0 << true << 60;
+    QTest::newRow("err ends it") << "err" << ok << 0 << false << 0 << QStringList{"Could not get progress of calibration "
+        "of sensor: " + S2, "Could not get progress of calibration"};
+    QTest::newRow("Cancel stops") << "cancel" << ok << 1 << false << 0 << QStringList();
+    QTest::newRow("Escape acts as Cancel") << "escape" << ok << 1 << false << 0 << QStringList();
+    QTest::newRow("stop refused") << "cancel" << QByteArray("norvane err 7") << 1 << true << 60 << QStringList();
+    QTest::newRow("stop not sent") << "cancel" << QByteArray("-") << 1 << true << 60
+                                   << QStringList{"Could not stop calibration"};
+    QTest::newRow("closing stops nothing") << "close" << ok << 0 << true << 60 << QStringList();
 }
 
 void tst_InertialCalibrationDlg::run_endings()
@@ -246,8 +259,9 @@ void tst_InertialCalibrationDlg::run_endings()
     QFETCH(int, stops);
     QFETCH(bool, running);
     QFETCH(int, bar);
+    QFETCH(QStringList, messages);
 
-    fake->reply("norvane cal inertial_gyro stop", stop);
+    stop == "-" ? fake->fail("norvane cal inertial_gyro stop") : fake->reply("norvane cal inertial_gyro stop", stop);
     open([&] {
         calibrate({"cal"});
         fake->clear_log();
@@ -256,8 +270,6 @@ void tst_InertialCalibrationDlg::run_endings()
             fake->fail("inertial sensor_gyro_progress " + S2);
             fake->fail("status progress");
             tick();
-            QCOMPARE(fake->message_texts(), QStringList({"Could not get progress of calibration of sensor: " + S2,
-                                                         "Could not get progress of calibration"}));
         } else if (action == "cancel") {
             w("pushButton_cancel")->click();
         } else {
@@ -271,6 +283,7 @@ void tst_InertialCalibrationDlg::run_endings()
             QCOMPARE(cell(0, 0)->background(), QBrush(Qt::transparent));
     });
     QCOMPARE(fake->count("norvane cal inertial_gyro stop"), stops);
+    QCOMPARE(fake->message_texts(), messages);
     QCOMPARE(fake->count(marked(S1, "no")), 0);
 }
 
@@ -283,11 +296,15 @@ void tst_InertialCalibrationDlg::apply_data()
     QTest::addColumn<QStringList>("messages");
 
     const QByteArray accept = "norvane inertial accept_new_sensor_gyro ";
+    const QString unread = "Could not set get new residual of sensor: " + S1;
     QTest::newRow("one kept, one refused") << QByteArray("0.2") << false << Lines{accept + S1, marked(S1, "no"), accept + S2, marked(S2, "no")}
                                            << QStringList{"101 Norvane IMU left"}
                                            << QStringList{"Could not accept new calirabtion of sensor: " + S2};
     QTest::newRow("unticked, not kept") << QByteArray("0.0") << false << Lines{accept + S2, marked(S2, "no")}
                                         << QStringList() << QStringList{"Could not accept new calirabtion of sensor: " + S2};
+    QTest::newRow("residual unknown: not offered") << QByteArray("-") << false << Lines{accept + S2, marked(S2, "no")}
+        << QStringList() << QStringList{unread, unread, unread,   // asked again at each tick
+                                        "Could not accept new calirabtion of sensor: " + S2};
     QTest::newRow("failed unmark stops") << QByteArray("0.2") << true << Lines{accept + S1, marked(S1, "no")} << QStringList()
                                          << QStringList{"Could not set calibration of sensor: " + S1};
 }
@@ -303,11 +320,12 @@ void tst_InertialCalibrationDlg::apply()
     fake->reply("norvane inertial accept_new_sensor_gyro " + S2, "norvane err 7", 4);
     if (unmark_fails)
         fake->fail(marked(S1, "no"));
-    fake->reply("inertial new_sensor_gyro_residual " + S1, residual);
+    residual == "-" ? fake->fail("inertial new_sensor_gyro_residual " + S1)
+                    : fake->reply("inertial new_sensor_gyro_residual " + S1, residual);
     QStringList seen;
     open([&] {
         calibrate({"cal", "cal", "none"});
-        fake->clear_log();
+        const int mark = fake->lines().size();
         if (!listed.isEmpty())
             ModalDialogHelper::when_active("InertialCalibrationResultDlg", [&](QWidget* result) {
                 QVERIFY(dlg->cursor().shape() == Qt::WaitCursor);
@@ -320,7 +338,7 @@ void tst_InertialCalibrationDlg::apply()
             });
         w("pushButton_apply")->click();
         QCOMPARE(dlg->cursor().shape(), Qt::ArrowCursor);
-        QCOMPARE(fake->lines(), lines);
+        QCOMPARE(fake->lines().mid(mark), lines);
         QCOMPARE(fake->message_texts(), messages);
         fake->clear_log();
         QMetaObject::invokeMethod(dlg, "on_pushButton_apply_clicked");
@@ -340,10 +358,33 @@ void tst_InertialCalibrationDlg::warmup()
         fake->reply("inertial warmup", "no");
         fake->reply("inertial warmup_status", "1.0");
         fake->clear_log();
-        QMetaObject::invokeMethod(dlg, "warmup_update");
+        QMetaObject::invokeMethod(timer(1000), "timeout");
         QVERIFY(!bar->isVisible() && !timer(1000)->isActive() && !warning->isVisible());
         QCOMPARE(fake->count("standard number_of_bodies"), 1);   // rebuilt
     });
+}
+
+void tst_InertialCalibrationDlg::reopenedIdle()
+{
+    // Left while the controller still calibrates, with the user's choices
+    // changed: the next opening shows a fresh table and no run.
+    const auto state = [this] {
+        QString s = QString("%1%, %2%3%4%5%6 ").arg(w<QProgressBar>()->value()).arg(w("pushButton_calibrate")->isEnabled())
+            .arg(w("pushButton_cancel")->isEnabled()).arg(w("pushButton_apply")->isEnabled())
+            .arg(w("pushButton_exit")->isEnabled()).arg(timer(200)->isActive());
+        for (int r = 0; r < w<QTableWidget>("tableWidget")->rowCount(); ++r)
+            s += '|' + cell(r, 4)->text() + (cell(r, 5)->checkState() ? "x" : "");
+        return s;
+    };
+    QStringList seen;
+    open([&] {
+        calibrate({"cal", "cal"});
+        w<QCheckBox>("checkBox_calibrateAll")->setChecked(false);
+        seen << state();
+        QVERIFY(dlg->close());
+    });
+    open([&] { seen << state(); });
+    QCOMPARE(seen, QStringList({"60%, 01001 |0.0000|0.4300|", "0%, 10010 |x|x|"}));
 }
 
 QTEST_MAIN(tst_InertialCalibrationDlg)

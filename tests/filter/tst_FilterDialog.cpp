@@ -8,14 +8,8 @@
 
 #include <functional>
 
-#include "FakeController.h"
-#include "HostHarness.h"
-#include "ModalDialogHelper.h"
+#include "DialogFixture.h"
 #include "filter/FilterDialog.h"
-#include "host/InProcessLink.h"
-#include "host/MainWindow.h"
-#include "module/BackendVersions.h"
-#include "simulator/SimulatedController.h"
 
 using Lines = QList<QByteArray>;
 
@@ -61,7 +55,7 @@ const QStringList AllControls = {"body", "active", "preset", "strength", "predic
 
 } // namespace
 
-class tst_FilterDialog : public QObject
+class tst_FilterDialog : public QObject, DialogFixture
 {
     Q_OBJECT
 
@@ -73,8 +67,8 @@ private slots:
     void openingAndBodyChange();
     void writes_data();
     void writes();
+    void readFailures_data();
     void readFailures();
-    void simulatorKeepsWhatIsChosen();
 
 private:
     template <class T = QWidget>
@@ -83,34 +77,32 @@ private:
     void open(const std::function<void()>& steps, int type = 0);
     QStringList enabled() const;
     QStringList items(const char* combo) const;
+    void script(QByteArray lines = {});   // "line=answer|...", or the whole system above
 
-    FakeController* fake = nullptr;
-    BackendVersions versions;
     FilterDialog* dlg = nullptr;
 };
 
 void tst_FilterDialog::init()
 {
-    fake = new FakeController;
+    start();
     fake->set_stateful(true);
-    versions = BackendVersions();
-    versions.major = 1;
-    versions.minor = 21;
-    dlg = new FilterDialog(fake, nullptr, &versions);
-    QByteArray script = Script + ('|' + QByteArray(BodyScript).replace(" B", " standard b01"));
-    script += '|' + QByteArray(BodyScript).replace(" B", " standard b03");
-    for (const QByteArray& entry : script.replace('\n', '|').split('|'))
+    dlg = new FilterDialog(fake, owner, &versions);
+    script();
+}
+
+void tst_FilterDialog::script(QByteArray lines)
+{
+    if (lines.isEmpty())
+        lines = Script + ('|' + QByteArray(BodyScript).replace(" B", " standard b01")) + '|'
+                + QByteArray(BodyScript).replace(" B", " standard b03");
+    for (const QByteArray& entry : lines.replace('\n', '|').split('|'))
         fake->reply(entry.left(entry.indexOf('=')), entry.mid(entry.indexOf('=') + 1));
 }
 
 void tst_FilterDialog::cleanup()
 {
-    delete dlg;
     QCOMPARE(fake->unexpected(), Lines());
-    delete fake;
-    QCOMPARE(ModalDialogHelper::pending(), 0);
-    ModalDialogHelper::clear_pending();
-    QCOMPARE(ModalDialogHelper::leaked_windows(), QStringList());
+    finish();
 }
 
 void tst_FilterDialog::open(const std::function<void()>& steps, int type)
@@ -153,7 +145,7 @@ void tst_FilterDialog::closed_data()
     const QString bodies = "6DOF filter for standard bodies not available";
     QTest::newRow("locked, standard bodies") << 21 << 0 << QByteArray("config is_changeable=no") << standard
                                              << bodies << true;
-    QTest::newRow("locked, wands") << 21 << 1 << QByteArray("config is_changeable=no") << wand
+    QTest::newRow("1.9, the first to lock, no filter yet") << 9 << 1 << QByteArray("config is_changeable=no") << lock
                                    << "6DOF filter for wands not available" << true;
     QTest::newRow("no filter for wands") << 21 << 1 << QByteArray("filter6d available wand=no") << wand
                                          << "6DOF filter for wands not available" << false;
@@ -161,7 +153,9 @@ void tst_FilterDialog::closed_data()
                                        << "6DOF filter not available" << false;
     QTest::newRow("controller 1.8, never locked") << 8 << 0 << QByteArray("config is_changeable=no") << Lines()
                                                   << bodies << false;
-    QTest::newRow("no calibrated body") << 21 << 0 << QByteArray("body number_of_bodies standard=0")
+    QTest::newRow("no calibrated wand") << 21 << 1 << QByteArray("wand number_of_devices=0")
+                                        << wand + Lines{"wand number_of_devices"} << "No wand is calibrated" << false;
+    QTest::newRow("1.12, the first with a filter, no calibrated body") << 12 << 0 << QByteArray("body number_of_bodies standard=0")
         << standard + Lines{"body number_of_bodies standard"} << "No standard body is calibrated" << false;
 }
 
@@ -174,7 +168,7 @@ void tst_FilterDialog::closed()
     QFETCH(QString, text);
     QFETCH(bool, lockIcon);
     versions.minor = minor;
-    fake->reply(reply.left(reply.indexOf('=')), reply.mid(reply.indexOf('=') + 1));
+    script(reply);
     open([&] {
         QCOMPARE(enabled(), QStringList());
         QCOMPARE(w<QLabel>("label_error")->text(), "<b><font color=red>" + text + "</font></b>");
@@ -182,6 +176,13 @@ void tst_FilterDialog::closed()
         QCOMPARE(!dlg->windowIcon().isNull(), lockIcon);
     }, type);
     QCOMPARE(fake->lines(), lines);
+    // Once the controller allows it, the next opening keeps nothing of this one.
+    versions.minor = 21;
+    script();
+    open([&] {
+        QCOMPARE(enabled(), AllControls);
+        QCOMPARE(w<QLabel>("label_error")->text() + QString::number(dlg->windowIcon().isNull()), "1");
+    });
 }
 
 void tst_FilterDialog::openingAndBodyChange()
@@ -275,53 +276,48 @@ void tst_FilterDialog::writes()
     QCOMPARE(fake->message_texts(), message.isEmpty() ? QStringList() : QStringList(message));
 }
 
-void tst_FilterDialog::readFailures()
+void tst_FilterDialog::readFailures_data()
 {
-    for (const QByteArray line : {"filter6d preset_id t01", "filter6d preset_desc preset6d_custom",
-                                  "body filter6d_preset_available standard b03 preset6d_hybrid_custom",
-                                  "filter6d number_of_modes",
-                                  "body filter6d_mode standard b03"})
-        fake->fail(line);
-    open([&] {
-        QCOMPARE(items("comboBox_preset"), QStringList({"preset6d_custom"}));
-        QCOMPARE(w<QComboBox>("comboBox_preset")->currentText(), "preset6d_custom");
-        QCOMPARE(items("comboBox_mode"), QStringList());
-        QCOMPARE(enabled(), AllControls);
-    });
-    QCOMPARE(fake->message_texts(), QStringList({"Error: Unable to get filter 6d preset id",
-                                                 "Error: Unable to get filter 6d preset description",
-                                                 "Error: Unable to get filter 6d preset id available",
-                                                 "Error: Unable to get number of filter 6d modes",
-                                                 "Error: Unable to get filter 6d mode for body standard b03"}));
+    QTest::addColumn<Lines>("failing");
+    QTest::addColumn<QString>("shown");   // the presets, the one chosen, the modes, the one chosen
+    QTest::addColumn<QStringList>("enabledAfter");
+    QTest::addColumn<QStringList>("messages");
+
+    QTest::newRow("choices left out, the rest offered") << Lines{"filter6d preset_id t01",
+        "filter6d preset_desc preset6d_custom", "body filter6d_preset_available standard b03 preset6d_hybrid_custom",
+        "filter6d number_of_modes", "body filter6d_mode standard b03"} << "preset6d_custom/preset6d_custom (/)"
+        << AllControls << QStringList{"Error: Unable to get filter 6d preset id",
+        "Error: Unable to get filter 6d preset description", "Error: Unable to get filter 6d preset id available",
+        "Error: Unable to get number of filter 6d modes", "Error: Unable to get filter 6d mode for body standard b03"};
+    QTest::newRow("the body's filter unknown: nothing claimed") << Lines{"body calibrated standard b02",
+        "body filter6d_enabled standard b03", "filter6d number_of_presets", "body filter6d_preset standard b03",
+        "body filter6d_strength standard b03", "body filter6d_prediction standard b03", "filter6d mode_id t01",
+        "filter6d mode_desc mode6d_smooth", "body filter6d_mode_available standard b03 mode6d_hybrid"}
+        << "/ (mode6d_smooth/mode6d_smooth)" << QStringList{"body", "active", "preset"} << QStringList{
+        "Error: Unable to get calibration info of body", "Error: Unable to get filter info of body",
+        "Error: Unable to get number of filter 6d presets", "Error: Unable to get filter 6d preset for body standard b03",
+        "Error: Unable to get filter 6d strength for body standard b03",
+        "Error: Unable to get filter 6d prediction for body standard b03", "Error: Unable to get filter 6d mode id",
+        "Error: Unable to get filter 6d mode description", "Error: Unable to get filter 6d mode id available"};
 }
 
-void tst_FilterDialog::simulatorKeepsWhatIsChosen()
+void tst_FilterDialog::readFailures()
 {
-    HostHarness::Options options;
-    options.plugin_file = QStringLiteral(PLUGIN_FILE);
-    HostHarness host(options);
-    QVERIFY2(host.ok(), qPrintable(host.error()));
-    const int start_messages = host.messages().size();   // the host's own start-up notes
-    delete dlg;
-    dlg = new FilterDialog(host.link(), nullptr, host.window()->backend_versions());
-    open([&] {   // body 03, "head", uses the medium prediction preset
-        auto* presets = w<QComboBox>("comboBox_preset");
-        QCOMPARE(presets->currentText(), "medium prediction");
-        presets->setCurrentIndex(presets->findText("custom"));
-        w<QSpinBox>("spinBox_prediction")->setValue(40);
-        QTest::keyClick(w("spinBox_prediction"), Qt::Key_Return);
-        ModalDialogHelper::when_active("FilterHelp", [&](QWidget* box) {
-            QCOMPARE(box->windowTitle(), "Help Filter");
-            box->findChild<QAbstractButton*>("pushButton_exit")->click();
-        });
-        w<QAbstractButton>("pushButton_help")->click();
+    QFETCH(Lines, failing);
+    QFETCH(QString, shown);
+    QFETCH(QStringList, enabledAfter);
+    QFETCH(QStringList, messages);
+
+    for (const QByteArray& line : failing)
+        fake->fail(line);
+    open([&] {
+        const auto chosen = [this](const char* combo) {
+            return items(combo).join(',') + '/' + w<QComboBox>(combo)->currentText();
+        };
+        QCOMPARE(chosen("comboBox_preset") + " (" + chosen("comboBox_mode") + ')', shown);
+        QCOMPARE(enabled(), enabledAfter);
     });
-    open([&] { QCOMPARE(w<QComboBox>("comboBox_body")->currentText(), "pointer (Wand body 01)"); }, 1);   // no wand 03
-    for (const QByteArray path : {"body filter6d_preset standard b03 preset6d_custom",
-                                  "body filter6d_prediction standard b03 0.04"})
-        QCOMPARE(host.simulator()->handle("norvane get " + path.left(path.lastIndexOf(' '))).line,
-                 "norvane set " + path);
-    QCOMPARE(host.messages().mid(start_messages), QStringList());
+    QCOMPARE(fake->message_texts(), messages);
 }
 
 QTEST_MAIN(tst_FilterDialog)

@@ -7,10 +7,8 @@
 
 #include <functional>
 
-#include "FakeController.h"
-#include "ModalDialogHelper.h"
+#include "DialogFixture.h"
 #include "hybridbody/HybridBodyCalibrationDlg.h"
-#include "module/BackendVersions.h"
 #include "module/InertialTrackingModule.h"
 
 using B = QByteArray;
@@ -18,7 +16,7 @@ using Lines = QList<QByteArray>;
 
 // Bodies 1 (ready, "left hand"), 2 (calibrated, inactive), 3 (its sensor
 // absent), 4 (uncalibrated, "torso") and 5 (no sensor).
-class tst_HybridBodyCalibrationDlg : public QObject
+class tst_HybridBodyCalibrationDlg : public QObject, DialogFixture
 {
     Q_OBJECT
 
@@ -42,20 +40,13 @@ private:
     // lines sent, and what the result showed in *shown.
     Lines calibrate(int index, const B& button, QString* shown);
 
-    FakeController* fake = nullptr;
-    BackendVersions versions;
-    QWidget* parent = nullptr;
     HybridBodyCalibrationDlg* dlg = nullptr;
 };
 
 void tst_HybridBodyCalibrationDlg::init()
 {
-    fake = new FakeController;
-    versions = BackendVersions();
-    versions.major = 1;
-    versions.minor = 21;
-    parent = new QWidget;
-    dlg = new HybridBodyCalibrationDlg(fake, parent, &versions);
+    start();
+    dlg = new HybridBodyCalibrationDlg(fake, owner, &versions);
     const QList<std::pair<B, B>> script = {
         {"config is_changeable", "yes"}, {"inertial available", "yes"}, {"inertial number_of_sensors", "1"},
         {"inertial sensor d01", "NRV IMU3 '10231'"}, {"inertial body_of_sensor NRV IMU3 '10231'", "standard b01"},
@@ -90,11 +81,7 @@ void tst_HybridBodyCalibrationDlg::cleanup()
     dlg->about_to_exit();
     QVERIFY(!fake->receiver("HybridBodyCalibration"));
     QCOMPARE(fake->unexpected(), Lines());
-    delete parent;
-    delete fake;
-    QCOMPARE(ModalDialogHelper::pending(), 0);
-    ModalDialogHelper::clear_pending();
-    QCOMPARE(ModalDialogHelper::leaked_windows(), QStringList());
+    finish();
 }
 
 void tst_HybridBodyCalibrationDlg::open(const std::function<void()>& inside)
@@ -178,7 +165,7 @@ Lines tst_HybridBodyCalibrationDlg::calibrate(int index, const B& button, QStrin
                                           "label_residual", "label_sensorDelay"})
                     *shown += text(w, label) + '|';
                 auto* table = in<QTableWidget>(w, "tableWidget");
-                *shown += QString::number(table->isVisible());
+                *shown += in<QPushButton>(w, "pushButton_showDetails")->text() + QString::number(table->isVisible());
                 in<QPushButton>(w, "pushButton_showDetails")->click();
                 *shown += in<QPushButton>(w, "pushButton_showDetails")->text() + QString::number(table->isVisible());
                 for (int i = 0; i < 9; ++i)   // row by row
@@ -217,20 +204,35 @@ void tst_HybridBodyCalibrationDlg::calibration_data()
     };
     const Lines accepted = result(s, {"norvane inertial accept_new_sensor_handeye " + s});
     const QList<B> usual = {"tracking", "none", "tracking", "tracking", "none"};
-    const QString shown = "standard body 0%1|Norvane|IMU 3|0.46|%2|0Hide &details1%3";
+    const QString shown = "standard body 0%1|Norvane|IMU 3|0.46|%2|Show &details0Hide &details1%3";
     const QString matrix = " 0.1000 0.4000 0.7000 0.2000 0.5000 0.8000 0.3000 0.6000 0.9124", b1 = "1 (left hand)|10231";
     QTest::newRow("accepted, matrix by columns") << 0 << usual << B() << B("pushButton_ok")
         << run(s, true) + accepted << shown.arg(b1, "12.30", matrix) << QStringList();
-    QTest::newRow("no sensor delay before 1.21") << 0 << usual << B("1.20") << B("pushButton_ok")
+    QTest::newRow("1.12: the first with the dialog, no sensor delay yet") << 0 << usual << B("1.12") << B("pushButton_ok")
         << run(s, true) + accepted.mid(1) << shown.arg(b1, "0.00", matrix) << QStringList();
     QTest::newRow("no result: empty matrix") << 0 << usual << "inertial new_sensor_handeye " + s
         << B("pushButton_ok") << run(s, true) + accepted << shown.arg(b1, "12.30", QString(9, ' '))
         << QStringList{"Error: Unable to get sensor hybrid calibration result"};
+    QTest::newRow("flags refused: told, the run goes on") << 0 << usual << "inertial sensor_handeye_calibrate " + s
+        + " yes|body active standard b01 yes|inertial sensor_handeye_calibrate " + s + " no" << B("pushButton_ok")
+        << run(s, true) + accepted << shown.arg(b1, "12.30", matrix) << QStringList{"Could not set hybrid calibration "
+        "of sensor: " + s, "Could not set body settings: standard b01", "Could not reset hybrid calibration status of "
+        "sensor: " + s};
+    QTest::newRow("tracking refused: told, the run goes on") << 0 << usual << B("norvane tracking stop|norvane tracking "
+        "start") << B("pushButton_ok") << run(s, true) + accepted << shown.arg(b1, "12.30", matrix)
+        << QStringList{"Could not stop tracking", "Could not start tracking", "Could not start tracking"};
+    QTest::newRow("unreadable bodies left out, the rest offered") << 0 << usual << B("cal available inertial_handeye|"
+        "inertial sensor_present NRV IMU3 '10233'|body inertial_sensor standard b05") << B("pushButton_ok")
+        << run(s, true) + accepted << shown.arg(b1, "12.30", matrix) << QStringList{"Could not get calibration "
+        "information", "Error: Unable to info inertial sensor is present", "Could not get information of sensor: standard b05"};
+    QTest::newRow("no bodies known: nothing to calibrate") << 0 << usual << B("standard number_of_bodies") << B()
+        << Lines() << "" << QStringList{"Error: Unable to get number of bodies"};
     QTest::newRow("uncalibrated, unreadable body discarded: inactive again") << 2 << usual
-        << B("body calibrated standard b04|body desc standard b04") << B("pushButton_cancel")
-        << run(s4, false) + result(s4, {"body active standard b04 no"}) << shown.arg("4|10234", "12.30", matrix)
-        << QStringList{"Could not get calibration status of body: standard b04",
-                       "Could not get description of sensor: standard b04"};
+        << B("body active standard b04|body calibrated standard b04|body desc standard b04|body active standard b04 no")
+        << B("pushButton_cancel") << run(s4, false) + result(s4, {"body active standard b04 no"})
+        << shown.arg("4|10234", "12.30", matrix) << QStringList{"Could not get active status of body: standard b04",
+        "Could not get calibration status of body: standard b04", "Could not get description of sensor: standard b04",
+        "Could not restore body settings: standard b04"};
     QTest::newRow("accept refused: left alone") << 2 << usual << "norvane inertial accept_new_sensor_handeye " + s4
         << B("pushButton_ok") << run(s4, false) + result(s4, {"norvane inertial accept_new_sensor_handeye " + s4})
         << shown.arg("4 (torso)|10234", "12.30", matrix) << QStringList();
@@ -239,6 +241,10 @@ void tst_HybridBodyCalibrationDlg::calibration_data()
     QTest::newRow("controller in error") << 0 << QList<B>{"err"} << B() << B()
         << Lines{active, "inertial sensor_handeye_calibrate " + s + " yes", "body active standard b01 yes", active,
                  "norvane tracking start", active} << "" << QStringList{"Error: Cannot start hybrid calibration"};
+    QTest::newRow("waiting for the cameras") << 0 << QList<B>{"tracking", "none", "wait"} << B() << B()
+        << Lines{active, "norvane tracking stop", "inertial sensor_handeye_calibrate " + s + " yes",
+                 "body active standard b01 yes", active, "norvane tracking start", active} << ""
+        << QStringList{"Error: Cannot start hybrid calibration. Maybe camera is disconnected"};
     QTest::newRow("F3 on an inactive body") << 1 << usual << B() << B() << Lines() << "" << QStringList();
 }
 
@@ -253,8 +259,8 @@ void tst_HybridBodyCalibrationDlg::calibration()
     QFETCH(QStringList, messages);
 
     fake->replies("status active", activity);
-    if (failing == "1.20")
-        versions.minor = 20;
+    if (failing == "1.12")
+        versions.minor = 12;
     else if (!failing.isEmpty())
         for (const B& line : failing.split('|'))
             fake->fail(line);

@@ -3,6 +3,9 @@
 #include <QAction>
 #include <QPointer>
 
+#include <cstring>
+#include <new>
+
 #include "FakeController.h"
 #include "ModalDialogHelper.h"
 #include "module/BackendVersions.h"
@@ -59,8 +62,9 @@ void tst_InertialTrackingModule::elements()
         for (const _GuiElement* e : elements) {
             seen << QString("%1 %2 %3 %4 %5").arg(e->menu_name).arg(e->menu_position).arg(e->action_position)
                         .arg(e->element_type).arg(e->widget->metaObject()->className());
-            if (e->action)
-                seen.last() += " | " + e->action->text() + " | " + e->action->statusTip() + " | " + e->action->whatsThis();
+            seen.last() += e->action ? " | " + e->action->text() + " | " + e->action->statusTip() + " | "
+                                           + e->action->whatsThis()
+                                     : " | " + e->widget->windowTitle() + " | " + e->widget->whatsThis();
             QCOMPARE(e->widget->parentWidget() == &parent, key != "ModuleParent");
             QVERIFY(!e->action || e->action->parent() == &module);
             widgets << e->widget;
@@ -69,7 +73,8 @@ void tst_InertialTrackingModule::elements()
             "In&ertial Sensor | Change the Inertial Sensor settings | Change the Inertial Sensor settings",
             "&Calibration 300 720 0 HybridBodyCalibrationDlg | &Hybrid Body | Calibrate a Hybrid Body | Calibrate a Hybrid Body",
             "&Calibration 300 420 0 InertialCalibrationDlg | In&ertial Sensor Calibration | Calibrate a inertial sensor"
-            " | Calibrate a inertial sensor", " -1 -1 1 InertialStatusBar"}));
+            " | Calibrate a inertial sensor", " -1 -1 1 InertialStatusBar | VEK InertialSensor Status | Displays whether "
+            "VEK InertialSensor is available and the warming up status"}));
         QCOMPARE(module.get_gui_elements(), elements);   // built once
         QCOMPARE(fake.receiver("InertialModule") == nullptr, key == "CommandManager");
         QCOMPARE(fake.lines().isEmpty(), key == "CommandManager" || key == "BackendVersions");   // the status bar asks at once
@@ -89,9 +94,13 @@ void tst_InertialTrackingModule::elements()
 
 void tst_InertialTrackingModule::lifecycle()
 {
-    InertialTrackingModule unused;   // closed before it handed anything out
-    unused.about_to_exit_module();
-    unused.exit_module();
+    // Closed before it handed anything out, in memory that held something else.
+    alignas(InertialTrackingModule) unsigned char memory[sizeof(InertialTrackingModule)];
+    std::memset(memory, 0xA5, sizeof memory);
+    auto* unused = new (memory) InertialTrackingModule;
+    unused->about_to_exit_module();
+    unused->exit_module();
+    unused->~InertialTrackingModule();
     QCOMPARE(ModalDialogHelper::leaked_windows(), QStringList());
 }
 

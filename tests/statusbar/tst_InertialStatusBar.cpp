@@ -6,9 +6,7 @@
 
 #include <memory>
 
-#include "FakeController.h"
-#include "ModalDialogHelper.h"
-#include "module/BackendVersions.h"
+#include "DialogFixture.h"
 #include "statusbar/BatteryBar.h"
 #include "statusbar/InertialStatusBar.h"
 #include "statusbar/TemperatureBar.h"
@@ -16,13 +14,13 @@
 // The status widget against the scripted controller: its own availability
 // rule, the three states its two polls move it between, the warm-up button,
 // and the two bars' colours.
-class tst_InertialStatusBar : public QObject
+class tst_InertialStatusBar : public QObject, DialogFixture
 {
     Q_OBJECT
 
 private slots:
-    void init();
-    void cleanup();
+    void init() { start(); }
+    void cleanup() { status.reset(); finish(); }
     void bars_data();
     void bars();
     void polls_data();
@@ -40,28 +38,8 @@ private:
     QString state() const;
     QTimer* timer(const char* name) const { return status->findChild<QTimer*>(name); }
 
-    FakeController* fake = nullptr;
-    BackendVersions versions;
-    QWidget* window = nullptr;
     std::unique_ptr<InertialStatusBar> status;
 };
-
-void tst_InertialStatusBar::init()
-{
-    fake = new FakeController;
-    versions = BackendVersions();
-    versions.major = 1;
-    versions.minor = 21;
-    window = new QWidget;
-}
-
-void tst_InertialStatusBar::cleanup()
-{
-    status.reset();
-    delete window;
-    delete fake;
-    QCOMPARE(ModalDialogHelper::leaked_windows(), QStringList());
-}
 
 void tst_InertialStatusBar::answer(const QList<QByteArray>& answers)
 {
@@ -183,13 +161,17 @@ void tst_InertialStatusBar::polls()
 
     versions.minor = minor;
     answer(before);
-    status = std::make_unique<InertialStatusBar>(fake, window, &versions);
+    status = std::make_unique<InertialStatusBar>(fake, owner, &versions);
     QStringList seen{state() + QString(" [%1]").arg(fake->lines().size())};
     answer(after);
+    // The button's text tells start from stop: it is shown, beside the icon.
+    QCOMPARE(status->findChild<QToolButton*>("pushButton_startWarmup")->toolButtonStyle(), Qt::ToolButtonTextBesideIcon);
     // The bar's own timers drive the polls, as they do in the host.
     QCOMPARE(timer("statusTimer")->interval() + timer("progressTimer")->interval(), 6000);
+    status->hide();   // a status poll that finds sensors shows the bar again
     QMetaObject::invokeMethod(timer("statusTimer"), "timeout");
     seen << state();
+    QCOMPARE(status->isHidden(), seen.last().contains("(off)"));
     if (timer("progressTimer")->isActive())
         QMetaObject::invokeMethod(timer("progressTimer"), "timeout");
     seen << state();
@@ -224,7 +206,7 @@ void tst_InertialStatusBar::button()
     QFETCH(QString, state);
 
     answer({"yes", "2", warmup, "0.4"});
-    status = std::make_unique<InertialStatusBar>(fake, window, &versions);
+    status = std::make_unique<InertialStatusBar>(fake, owner, &versions);
     status->update_status();
     const QByteArray setting = warmup == "yes" ? "inertial warmup no" : "inertial warmup yes";
     accepted ? fake->accept(setting) : fake->fail(setting);
@@ -243,7 +225,7 @@ void tst_InertialStatusBar::button()
 void tst_InertialStatusBar::blockedChangesNothing()
 {
     answer({"yes", "2", "yes", "0.4"});
-    status = std::make_unique<InertialStatusBar>(fake, window, &versions);
+    status = std::make_unique<InertialStatusBar>(fake, owner, &versions);
     status->update_status();
     const QString before = state();
     // Whatever the controller would say now, nothing is asked or shown.

@@ -48,15 +48,6 @@ QList<QByteArray> FakeController::lines() const
     return result;
 }
 
-QList<QByteArray> FakeController::lines(Operation operation) const
-{
-    QList<QByteArray> result;
-    for (const Call& call : call_log)
-        if (call.operation == operation)
-            result << call.line;
-    return result;
-}
-
 QStringList FakeController::message_texts() const
 {
     QStringList texts;
@@ -82,6 +73,8 @@ int FakeController::answer(Operation operation, const QByteArray& line, QByteArr
 {
     call_log << Call{operation, line, wait_separately, timeout_ms, timeout_flag};
     ++trips;
+    if (const std::function<void()> hook = hooks.value(line))
+        hook();
     auto it = script.find(line);
     if (it == script.end()) {
         // In stateful mode a setting of a scripted path needs no script.
@@ -156,11 +149,9 @@ int FakeController::wait_for_completion(int* status)
     if (!pending)
         return 1;
     pending = false;
-    if (completion_result == 0)
-        return copy_reply(pending_answer, pending_reply);
     if (status)
-        *status = completion_result;
-    return completion_result;
+        *status = 0;
+    return copy_reply(pending_answer, pending_reply);
 }
 
 int FakeController::get_string(char* reply, const char* format, ...)

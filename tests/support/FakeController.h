@@ -7,6 +7,8 @@
 #include <QString>
 #include <QStringList>
 
+#include <functional>
+
 #include "module/IOManager.h"
 
 // A scripted controller for dialog tests. It formats every call's line as a
@@ -36,15 +38,14 @@ public:
     { script.insert(line, Script{answers, 0, NaturalResult}); }
     void fail(const QByteArray& line, int result = 1) { script.insert(line, Script{{}, 0, result}); }
     void accept(const QByteArray& setting) { reply(setting, QByteArray(), 0); }
-    void forget(const QByteArray& line) { script.remove(line); }
+    // Runs `hook` each time `line` goes out, before it is answered: what the
+    // user sees while the dialog waits for the controller.
+    void when_asked(const QByteArray& line, std::function<void()> hook) { hooks.insert(line, std::move(hook)); }
     void set_stateful(bool on) { stateful = on; }
     void set_blocked(bool on) { blocked = on; }
-    // Result of wait_for_completion for the pending asynchronous command.
-    void set_completion_result(int result) { completion_result = result; }
 
     const QList<Call>& calls() const { return call_log; }
     QList<QByteArray> lines() const;                       // every line, in order
-    QList<QByteArray> lines(Operation operation) const;    // lines of one operation
     int count(const QByteArray& line) const { return lines().count(line); }   // how often a line went out
     QList<QByteArray> unexpected() const { return unexpected_lines; }
     const QList<Message>& messages() const { return message_log; }
@@ -79,6 +80,7 @@ private:
     bool apply_setting(const QByteArray& line);
 
     QHash<QByteArray, Script> script;
+    QHash<QByteArray, std::function<void()>> hooks;
     QList<Call> call_log;
     QList<QByteArray> unexpected_lines;
     QList<Message> message_log;
@@ -91,7 +93,6 @@ private:
     bool pending = false;           // an asynchronous command waits for wait_for_completion
     char* pending_reply = nullptr;
     QByteArray pending_answer;
-    int completion_result = 0;
     long trips = 0;
 };
 
