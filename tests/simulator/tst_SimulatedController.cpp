@@ -2,9 +2,23 @@
 
 #include <algorithm>
 
-#include "ControllerProbe.h"
+#include "simulator/ManualClock.h"
+#include "simulator/SimulatedController.h"
 
-// The simulated controller in scripts (their steps: see ControllerProbe).
+// The simulated controller, on a clock the test moves, talked to in scripts
+// of steps separated by '|':
+//   PATH = VALUE      "norvane get PATH" is answered "norvane set PATH VALUE"
+//   LINE -> REPLY     "norvane LINE" is answered REPLY ("ok", "set ..." and
+//                     "err ..." start with "norvane ", "err N" alone stands for
+//                     any text); a delay, silence or hang-up follows as
+//                     " (after N ms)", " (no answer)", " (hangs up)"
+//   +SECONDS          time passes
+//   load SCENARIO     an example file (NAME.json) or JSON; "load X -> TEXT"
+//                     fails with TEXT in the error; "with KEYS" loads the
+//                     default scenario with these keys changed
+// $S1..$S5 and $T1, $T2 are the default scenario's sensors and transceivers:
+// S1 on body 1 (hybrid), S2 on body 2, S3 asleep in tap mode, S4 on no body
+// with a low battery, S5 on cable; T1 on channel 35 (measured), T2 on 55.
 class tst_SimulatedController : public QObject
 {
     Q_OBJECT
@@ -26,17 +40,90 @@ private:
     static void run()
     {
         QFETCH(QByteArray, script);
-        ControllerProbe probe;
-        const QString problem = probe.run(script);
+        const QString problem = tst_SimulatedController().play(script);
         QVERIFY2(problem.isEmpty(), qPrintable(problem));
     }
+    // "" when every step went as written, else the first one that did not.
+    QString play(const QByteArray& script);
+    QByteArray ask(const QByteArray& line) { return controller.handle(expand(line)).line; }
+    static QByteArray expand(QByteArray text)
+    {
+        for (const char* device : {"S1 NRV IMU3 '10231'", "S2 NRV IMU3 '10232'", "S3 NRV IMU3 '10233'",
+                                   "S4 NRV IMU3 '10234'", "S5 NRV IMU3C '10235'", "T1 NRV RD2 '70011'",
+                                   "T2 NRV RD2 '70012'"})
+            text.replace('$' + QByteArray(device, 2), QByteArray(device + 3));
+        return text;
+    }
+    // A _data table of scripts from "name: script" lines; indented lines go on.
+    static void rows(const char* table)
+    {
+        QTest::addColumn<QByteArray>("script");
+        for (const QByteArray& row : QByteArray(table).replace("\n ", " ").split('\n')) {
+            const int colon = row.indexOf(": ");
+            if (colon > 0)
+                QTest::newRow(row.left(colon).constData()) << row.mid(colon + 2).simplified();
+        }
+    }
+
+    // Some time after the clock's zero, so that nothing can pass for measured
+    // from the start of the scenario when it is measured from zero.
+    ManualClock clock{3600 * 1000};
+    SimulatedController controller{&clock};
 };
+
+QString tst_SimulatedController::play(const QByteArray& script)
+{
+    for (QByteArray step : expand(script).split('|')) {
+        step = step.trimmed();
+        const int arrow = step.indexOf(" -> ");
+        const int equals = step.indexOf(" = ");
+        QByteArray expected = step.mid(arrow + 4);
+        QByteArray got;
+        if (step.startsWith('+')) {
+            clock.advance(qint64(step.mid(1).toDouble() * 1000));
+            continue;
+        }
+        if (step.startsWith("load ") || step.startsWith("with ")) {
+            QString error;
+            QByteArray scenario = arrow > 0 ? step.mid(5, arrow - 5) : step.mid(5);
+            if (step.startsWith("with "))
+                scenario = "{\"extends\": \"default\", " + scenario + '}';
+            const bool loaded =
+                scenario.endsWith(".json")
+                    ? controller.load_scenario_file(QString::fromLatin1(SCENARIO_DIR "/" + scenario), &error)
+                    : controller.load_scenario(scenario, &error);
+            if (arrow < 0 ? loaded : !loaded && error.contains(QString::fromUtf8(expected)))
+                continue;
+            got = loaded ? "loaded" : error.toUtf8();
+        } else if (arrow < 0 && equals < 0) {
+            return QStringLiteral("cannot read the step \"%1\"").arg(QString::fromLatin1(step));
+        } else {
+            QByteArray request = "norvane " + step.left(arrow);
+            if (arrow < 0) {
+                request = "norvane get " + step.left(equals);
+                expected = "norvane set " + step.left(equals) + ' ' + step.mid(equals + 3);
+            } else if (QRegularExpression("^(ok\\b|set |err )").match(QString::fromLatin1(expected)).hasMatch()) {
+                expected.prepend("norvane ");
+            }
+            const SimReply reply = controller.handle(request);
+            got = reply.line + (reply.delay_ms ? " (after " + QByteArray::number(reply.delay_ms) + " ms)" : "")
+                  + (reply.silent ? " (no answer)" : "") + (reply.hang_up ? " (hangs up)" : "");
+            QString pattern = QRegularExpression::escape(QString::fromLatin1(expected));
+            if (QRegularExpression("^norvane err \\d+$").match(QString::fromLatin1(expected)).hasMatch())
+                pattern += " \"[^\"]*\"";   // any text
+            if (QRegularExpression('^' + pattern + '$').match(QString::fromLatin1(got)).hasMatch())
+                continue;
+        }
+        return QStringLiteral("%1\n   got: %2").arg(QString::fromLatin1(step), QString::fromLatin1(got));
+    }
+    return QString();
+}
 
 // Every root's queries in the forms the plug-in reads, settings seen in
 // later answers, and each refusal leaving the model as it was.
 void tst_SimulatedController::language_data()
 {
-    ControllerProbe::rows(R"script(
+    rows(R"script(
 system, lock, cameras, sync card: system version = 1.21.2 | system type = NORVANE-DUO | system firmware_version = 4.2.1
  | config is_changeable = yes | tracking available = yes | synccard output_frequency = 60.0
 inertial sensors: inertial available = yes | inertial number_of_sensors = 5 | inertial sensor d05 = $S5
@@ -136,7 +223,7 @@ older controllers know less: with "system": {"version": "0.16.0"} | get tracking
 // The model as time passes and devices move.
 void tst_SimulatedController::model_data()
 {
-    ControllerProbe::rows(R"script(
+    rows(R"script(
 warm-up heats in 180 s: with "bodies": {"standard": []}, "sensors": [{"serial": "10231", "transceiver": "70011",
  "temperature": 24.0}] | set inertial warmup yes -> ok | inertial warmup_status = 0.0 | +45
  | inertial sensor_temperature $S1 = 27.0 36.0 | inertial warmup_status = 0.25 | +126
@@ -197,7 +284,7 @@ forty sensors at most: load forty_sensors.json | inertial number_of_sensors = 40
 // Calibrations as the progress dialogs poll them, to success or to "err".
 void tst_SimulatedController::calibrations_data()
 {
-    ControllerProbe::rows(R"script(
+    rows(R"script(
 gyroscopes: set inertial sensor_gyro_calibrate $S1 yes -> ok | set inertial sensor_gyro_calibrate $S2 yes -> ok
  | cal inertial_gyro start -> ok | status active = cal | status step_active = cal 1 | status step_progress = 1 0.0
  | get inertial new_sensor_gyro_residual $S1 -> err 7 | set inertial sensor_gyro_calibrate $S1 no -> err 7 | +7.5
@@ -247,7 +334,7 @@ without room calibration or cameras: with "system": {"room_calibrated": false} |
 // Injected faults: what they make of the reply, and whether the request was done.
 void tst_SimulatedController::faults_data()
 {
-    ControllerProbe::rows(R"script(
+    rows(R"script(
 fail, not done: with "faults": [{"line": "norvane set inertial warmup yes", "kind": "fail", "code": 12, "text": "no radio"}]
  | set inertial warmup yes -> err 12 "no radio" | inertial warmup = no
 late, done: with "faults": [{"line": "norvane set inertial warmup yes", "kind": "late", "delay_ms": 2500}]
@@ -273,7 +360,7 @@ faulty link example: load faulty_link.json | inertial warmup_status = 0.197917 (
 // place, nothing of it kept.
 void tst_SimulatedController::scenarios_data()
 {
-    ControllerProbe::rows(R"script(
+    rows(R"script(
 objects merged, lists replaced: with "system": {"type": "PORTAFRAME"}, "bodies": {"count": 2},
  "waiting_sensors": [{"serial": "10999", "channel": 20}] | system type = PORTAFRAME | system version = 1.21.2
  | standard number_of_bodies = 2 | body desc standard b01 = "left hand" | inertial number_of_sensors = 5
@@ -326,9 +413,8 @@ too many sensors: load {"inertial": {"max_sensors": 1}, "sensors": [{"serial": "
 
 void tst_SimulatedController::channel_scan_suggests_the_quietest()
 {
-    ControllerProbe probe;
-    QCOMPARE(probe.run("inertial scan_transceiver_radio_channels -> ok (after 300 ms)"), QString());
-    const auto value = [&probe](const QByteArray& path) { return probe.ask("norvane get " + path).split(' ').last().toDouble(); };
+    QCOMPARE(play("inertial scan_transceiver_radio_channels -> ok (after 300 ms)"), QString());
+    const auto value = [this](const QByteArray& path) { return ask("norvane get " + path).split(' ').last().toDouble(); };
     QMap<int, double> activity;
     for (int channel = 2; channel <= 81; ++channel) {
         activity[channel] = value("inertial transceiver_radio_channel_activity $T2 " + QByteArray::number(channel));
