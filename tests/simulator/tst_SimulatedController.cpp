@@ -204,19 +204,11 @@ locked: load locked_configuration.json | config is_changeable = no | set inertia
 inertial tracking off: with "inertial": {"available": false} | inertial available = no
  | set inertial warmup yes -> err 8 "inertial tracking is not available" | inertial scan_sensors -> err 8
  | set body inertial_sensor standard b03 $S4 -> err 8 | set body desc standard b03 "x" -> ok
-older controllers know less: with "system": {"version": "0.16.0"} | get tracking available -> err 1
- | with "system": {"version": "1.3.9"} | get cal step_duration inertial_gyro s01 -> err 1 | tracking available = yes
- | with "system": {"version": "1.4.0"} | cal step_duration inertial_gyro s01 = 15.0 | get config is_changeable -> err 1
- | with "system": {"version": "1.9.0"} | config is_changeable = yes
- | with "system": {"version": "1.11.4"} | get inertial available -> err 1 | inertial scan_sensors -> err 1
- | get body inertial_sensor standard b01 -> err 1 | get filter6d available standard -> err 1
+older controllers know less, by root and by name: with "system": {"version": "1.11.4"} | get inertial available -> err 1
+ | inertial scan_sensors -> err 1 | get body inertial_sensor standard b01 -> err 1 | body desc standard b01 = "left hand"
  | with "system": {"version": "1.12.0"} | inertial available = yes | body inertial_sensor standard b01 = $S1
- | filter6d available standard = yes | with "system": {"version": "1.20.7"} | get tracking pulse -> err 1
- | set tracking pulse synchronous_cameras -> err 1 | get filter6d preset_id t01 -> err 1 | get filter6d mode_id t01 -> err 1
- | get body filter6d_preset standard b01 -> err 1 | get inertial new_sensor_delay $S1 -> err 1
- | get inertial sensor_has_storage $S1 -> err 1 | get inertial sensor_output_frequency $S1 -> err 1
- | body filter6d_enabled standard b01 = yes | with "system": {"version": "1.21.0"} | tracking pulse = synchronous_cameras
- | with "system": {"version": "2.0.0"} | filter6d preset_id t01 = preset6d_default
+ | with "system": {"version": "1.20.7"} | set tracking pulse synchronous_cameras -> err 1 | get filter6d preset_id t01 -> err 1
+ | with "system": {"version": "2.0.0"} | filter6d preset_id t01 = preset6d_default | tracking pulse = synchronous_cameras
 )script");
 }
 
