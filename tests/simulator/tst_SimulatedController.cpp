@@ -149,13 +149,12 @@ calibrations and status: cal available flux = no | cal type_desc inertial_handey
  | cal step_desc inertial_gyro s01 = "Keep the sensors still" | cal step_duration inertial_alignment s02 = 15.0
  | cal step_pause inertial_alignment s02 = yes 5 | cal step_pause inertial_gyro s01 = no 0
  | get cal step_pause inertial_gyro s02 -> err 5 | status active = tracking | status progress = 0.0
- | status step_active = none | status err = 0 "" | get status err -> set status err 0 ""
+ | status step_active = none | status err = 0 ""
 sensor settings: set inertial frequency 80.000000 -> ok | inertial sensor_output_frequency $S4 = 80.0
- | set inertial warmup yes -> ok | inertial warmup = yes | set inertial sensor_wakeup_mode $S1 'wm_tap' -> ok
- | inertial sensor_wakeup_mode $S1 = 'wm_tap' | set inertial sensor_sleep_timeout $S1 240 -> ok
- | inertial sensor_sleep_timeout $S1 = 240 | set inertial sensor_gyro_calibrate $S2 yes -> ok
- | inertial sensor_gyro_calibrate $S2 = yes | set inertial sensor_handeye_calibrate $S2 yes -> ok
- | inertial sensor_handeye_calibrate $S2 = yes
+ | set inertial sensor_wakeup_mode $S1 'wm_tap' -> ok | inertial sensor_wakeup_mode $S1 = 'wm_tap'
+ | set inertial sensor_sleep_timeout $S1 240 -> ok | inertial sensor_sleep_timeout $S1 = 240
+ | set inertial sensor_gyro_calibrate $S2 yes -> ok | inertial sensor_gyro_calibrate $S2 = yes
+ | set inertial sensor_handeye_calibrate $S2 yes -> ok | inertial sensor_handeye_calibrate $S2 = yes
 radio channels: set inertial sensor_radio_channel $S1 55 -> ok | inertial transceiver_of_sensor $S1 = $T2
  | set inertial sensor_radio_channel $S2 20 -> ok | inertial sensor_present $S2 = no
  | set inertial sensor_radio_channel $S2 35 -> err 6 | set inertial transceiver_radio_channel $T1 20 -> ok
@@ -372,7 +371,6 @@ not ASCII: load {"bodies": {"standard": [{"desc": "café"}]}} -> bodies.standard
 frequency outside limits: load {"inertial": {"frequency": 5000}} -> inertial.frequency: must be a number from 50 to 500
 limits leaving the frequency out: load {"inertial": {"frequency_limits": [10, 100]}}
  -> inertial.frequency: must lie within frequency_limits
-battery over full: with "sensors": [{"serial": "1", "cable": true, "battery": 1.5}] -> sensors[0].battery: must be a number from 0 to 1
 serial used twice: with "waiting_sensors": [{"serial": "10231", "channel": 35}] -> waiting_sensors[0]: serial 10231 is used twice
 serial with quotes: with "sensors": [{"serial": "'1'", "cable": true}]
  -> sensors[0]: vendor, model and serial are written without quotes
