@@ -242,10 +242,8 @@ void tst_MainWindow::messages_and_traffic()
     char reply[IOManager::ReplyCapacity];
     link->get_string(reply, "a");
     link->get_string(reply, "b");
-    const QStringList traffic = window->traffic_log()->texts();
-    QCOMPARE(traffic.size(), 2);
-    QVERIFY(traffic.at(0).endsWith("ms  norvane get a  ->  norvane set a 1"));
-    QVERIFY(traffic.at(1).endsWith("ms  norvane get b  ->  (no reply)  [no reply]"));
+    QCOMPARE(window->traffic_log()->texts().replaceInStrings(QRegularExpression("^[^n]+ ms  "), ""),
+             QStringList({"norvane get a  ->  norvane set a 1", "norvane get b  ->  (no reply)  [no reply]"}));
     QCOMPARE(label("label_roundTrips"), QStringLiteral("2"));
 }
 
