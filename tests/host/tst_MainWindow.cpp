@@ -152,7 +152,6 @@ void tst_MainWindow::modules_from_start_to_quit()
     QCOMPARE(window->status_widgets(), QList<QWidget*>({one, two}));
     window->statusBar()->showMessage(QStringLiteral("passing message"));
     QVERIFY(one->isVisible() && two->isVisible());
-    QCOMPARE(one->parentWidget(), window->statusBar());
     QVERIFY(one->x() < two->x());
     for (QLabel* label : window->statusBar()->findChildren<QLabel*>(QString(), Qt::FindDirectChildrenOnly))
         QVERIFY(label == one || label == two || two->x() < label->x());
@@ -171,7 +170,6 @@ void tst_MainWindow::modules_from_start_to_quit()
     QVERIFY(window->modules().isEmpty() && window->module_actions().isEmpty() && window->status_widgets().isEmpty());
     QVERIFY(window->message_hub()->receiver_names().isEmpty());
     QCOMPARE(window->message_log()->texts().last(), QStringLiteral("Still registered at shutdown: FirstModule"));
-    QCOMPARE(menu_bar(), QStringList({"&File", "&Settings (off)", "&Calibration (off)", "&Help"}));
     window->shutdown_modules();
     window->add_module(&first, QStringLiteral("late"));
     QCOMPARE(journal.size(), 4);
