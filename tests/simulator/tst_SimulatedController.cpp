@@ -246,13 +246,8 @@ scan on two slots: set inertial number_of_scan_channels 2 -> ok | set inertial s
  | inertial scanned_sensor d01 = NRV IMU3 '10242' 40 | inertial scanned_sensor d02 = NRV IMU3C '10243' 0
  | inertial scanned_sensor d03 = $S5 0
 a sensor switched on later: with "waiting_sensors": [{"serial": "10250", "channel": 70, "appears_after_s": 10}]
- | set inertial number_of_scan_channels 1 -> ok | set inertial scan_transceiver_channel t01 $T2 70 -> ok
- | inertial scan_sensors -> ok (after 400 ms) | inertial add_sensor NRV IMU3 '10250' 70 -> err 5 | +10
- | inertial scan_sensors -> ok (after 400 ms) | inertial add_sensor NRV IMU3 '10250' 70 -> ok
-a sensor's life: set inertial number_of_scan_channels 1 -> ok | set inertial scan_transceiver_channel t01 $T2 55 -> ok
- | inertial scan_sensors -> ok (after 400 ms) | +1 | inertial number_of_scanned_sensors = -1
- | inertial number_of_scanned_sensors = -1 | inertial scanned_sensor d01 = NRV IMU3 '10241' 55
- | inertial scanned_sensor d02 = $S4 55 | inertial add_sensor NRV IMU3 '10241' 55 -> ok | inertial number_of_sensors = 6
+ | inertial add_sensor NRV IMU3 '10250' 70 -> err 5 | +10 | inertial add_sensor NRV IMU3 '10250' 70 -> ok
+a sensor's life: inertial add_sensor NRV IMU3 '10241' 55 -> ok | inertial number_of_sensors = 6
  | inertial sensor d06 = NRV IMU3 '10241' | inertial transceiver_of_sensor NRV IMU3 '10241' = $T2
  | inertial sensor_present NRV IMU3 '10241' = yes | set body inertial_sensor standard b06 NRV IMU3 '10241' -> ok
  | set tracking pulse inertial_sensor NRV IMU3 '10241' -> ok | inertial delete_sensor NRV IMU3 '10241' -> ok
