@@ -233,18 +233,13 @@ on cable a sensor charges: with "bodies": {"standard": []}, "sensors": [{"model"
 a sleeper wakes up when tapped: with "bodies": {"standard": []}, "sensors": [{"serial": "10233", "transceiver": "70012",
  "wakeup_mode": "wm_tap", "asleep": true, "wake_after_s": 30}] | +29 | inertial sensor_present $S3 = no
  | inertial warmup_status = 0.0 | +1 | inertial sensor_present $S3 = yes | set inertial sensor_wakeup_mode $S3 'wm_radio' -> ok
-scan on channel 35: set inertial number_of_scan_channels 1 -> ok | set inertial scan_transceiver_channel t01 $T1 35 -> ok
- | inertial scan_sensors -> ok (after 400 ms) | inertial number_of_scanned_sensors = -1
- | get inertial scanned_sensor d01 -> err 5 | inertial number_of_scanned_sensors = -1
- | inertial number_of_scanned_sensors = 3 | inertial scanned_sensor d01 = NRV IMU3 '10240' 35
- | inertial scanned_sensor d02 = $S1 35 | inertial scanned_sensor d03 = $S2 35 | set inertial number_of_scan_channels 0 -> ok
- | inertial number_of_scanned_sensors = 0
-scan on two slots: set inertial number_of_scan_channels 2 -> ok | set inertial scan_transceiver_channel t01 $T1 40 -> ok
+scan on two slots: set inertial number_of_scan_channels 2 -> ok | set inertial scan_transceiver_channel t01 $T1 35 -> ok
  | set inertial scan_transceiver_channel t02 usb -> ok | set inertial scan_transceiver_channel t03 usb -> err 7
  | inertial scan_sensors -> ok (after 400 ms) | +1 | inertial number_of_scanned_sensors = -1
- | inertial number_of_scanned_sensors = -1 | inertial number_of_scanned_sensors = 3
- | inertial scanned_sensor d01 = NRV IMU3 '10242' 40 | inertial scanned_sensor d02 = NRV IMU3C '10243' 0
- | inertial scanned_sensor d03 = $S5 0
+ | get inertial scanned_sensor d01 -> err 5 | inertial number_of_scanned_sensors = -1
+ | inertial number_of_scanned_sensors = 5 | inertial scanned_sensor d01 = NRV IMU3 '10240' 35
+ | inertial scanned_sensor d02 = $S1 35 | inertial scanned_sensor d03 = $S2 35 | inertial scanned_sensor d05 = $S5 0
+ | set inertial number_of_scan_channels 0 -> ok | inertial number_of_scanned_sensors = 0
 a sensor switched on later: with "waiting_sensors": [{"serial": "10250", "channel": 70, "appears_after_s": 10}]
  | inertial add_sensor NRV IMU3 '10250' 70 -> err 5 | +10 | inertial add_sensor NRV IMU3 '10250' 70 -> ok
 a sensor's life: inertial add_sensor NRV IMU3 '10241' 55 -> ok | inertial number_of_sensors = 6
