@@ -293,12 +293,10 @@ failing half way: with "calibrations": {"inertial_alignment": {"fail": {"at": 0.
  | cal number_of_steps inertial_alignment = 2 | cal inertial_alignment start -> ok | +20 | status active = cal | +1.5
  | status active = err | get status err -> set status err 24 "The body moved" | cal reflex_scan start -> ok
  | status err = 0 ""
-stopping: set inertial sensor_gyro_calibrate $S1 yes -> ok | cal inertial_gyro start -> ok | +2
- | cal inertial_gyro stop -> ok | status active = none | get inertial new_sensor_gyro_residual $S1 -> err 7
- | cal inertial_gyro stop -> ok
-what a run refuses: set inertial sensor_gyro_calibrate $S1 yes -> ok | cal inertial_gyro start -> ok
+what a run refuses, and stopping: set inertial sensor_gyro_calibrate $S1 yes -> ok | cal inertial_gyro start -> ok
  | cal reflex_scan stop -> err 7 "calibration inertial_gyro is running" | cal reflex_scan start -> err 7
- | tracking start -> err 7 "a calibration is running" | status active = cal | cal inertial_gyro stop -> ok
+ | tracking start -> err 7 "a calibration is running" | status active = cal | +2 | cal inertial_gyro stop -> ok
+ | status active = none | get inertial new_sensor_gyro_residual $S1 -> err 7 | cal inertial_gyro stop -> ok
  | cal reflex_scan start -> ok | +2 | cal reflex_scan stop -> err 7 "calibration reflex_scan cannot be interrupted"
  | status active = cal
 refused starts: cal inertial_handeye start -> err 7 | set inertial sensor_handeye_calibrate $S2 yes -> ok
