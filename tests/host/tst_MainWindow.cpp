@@ -71,7 +71,6 @@ void tst_MainWindow::menu_placement_data()
 
     const QStringList host = {"&File", "&Settings", "&Calibration", "&Help"};
     const QStringList tools = {"&File", "&Settings", "&Tools", "&Calibration", "&Help"};
-    QTest::newRow("host's own menu") << QStringList{"A|&Settings|200|&Probe|10"} << host << QStringList{"&Probe"};
     QTest::newRow("own menu named at another position") << QStringList{"A|&Calibration|999|&Probe|10"} << host
                                                         << QStringList{"&Probe"};
     QTest::newRow("new menu between") << QStringList{"A|&Tools|250|&Probe|10", "B|&Tools|7|&Other|5"} << tools
