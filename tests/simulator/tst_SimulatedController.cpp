@@ -124,32 +124,28 @@ QString tst_SimulatedController::play(const QByteArray& script)
 void tst_SimulatedController::language_data()
 {
     rows(R"script(
-system, lock, cameras, sync card: system version = 1.21.2 | system type = NORVANE-DUO | system firmware_version = 4.2.1
- | config is_changeable = yes | tracking available = yes | synccard output_frequency = 60.0
-inertial sensors: inertial available = yes | inertial number_of_sensors = 5 | inertial sensor d05 = $S5
- | get inertial sensor d06 -> err 5 | get inertial sensor 1 -> err 2 "bad sensor index 1" | inertial sensor_present $S3 = no
- | inertial body_of_sensor $S1 = standard b01 | inertial body_of_sensor $S4 = none | inertial sensor_version $S3 = '2.2.7'
- | inertial sensor_temperature $S1 = 27.0 36.0 | inertial sensor_battery $S4 = 0.15 | get inertial sensor_battery $S3 -> err 6
- | inertial sensor_output_frequency $S4 = 100.0 | inertial sensor_output_frequency $S1 = 200.0
- | inertial sensor_radio_channel $S5 = usb | inertial sensor_has_storage $S4 = no | inertial sensor_handeye $S1 = standard b01
+system, cameras, sync card: system type = NORVANE-DUO | system firmware_version = 4.2.1 | tracking available = yes
+ | synccard output_frequency = 60.0
+inertial sensors: inertial sensor d05 = $S5 | get inertial sensor d06 -> err 5 | get inertial sensor 1 -> err 2 "bad sensor index 1"
+ | inertial body_of_sensor $S4 = none | inertial sensor_version $S3 = '2.2.7' | inertial sensor_output_frequency $S4 = 100.0
+ | inertial sensor_output_frequency $S1 = 200.0 | inertial sensor_radio_channel $S5 = usb
  | inertial sensor_model_desc NRV IMU3 = "IMU3 inertial sensor" | inertial wakeup_mode t04 = none
  | inertial wakeup_mode_desc 'wm_radio' = 'wake by radio' | inertial sensor_wakeup_mode_available $S5 'wm_radio' = no
-inertial transceivers: inertial transceiver d02 = $T2 | inertial transceiver_of_sensor $S3 = $T2
- | inertial transceiver_of_sensor $S5 = none | inertial transceiver_model_desc NRV RD2 = "RD2 Radio Dongle (USB)"
- | inertial transceiver_version $T2 = "1.4.0" | inertial transceiver_available_radio_channel $T1 t80 = 81
- | get inertial transceiver_available_radio_channel $T1 t81 -> err 5 | inertial transceiver_suggested_radio_channel $T2 = 0
- | inertial transceiver_radio_channel_activity $T2 20 = -1.0 | inertial transceiver_radio_channel_activity $T1 55 = 1.0
- | inertial transceiver_radio_channel_activity $T1 1 = -1.0 | inertial limit frequency = 50.0 500.0
+inertial transceivers: inertial transceiver d02 = $T2 | inertial transceiver_of_sensor $S5 = none
+ | inertial transceiver_model_desc NRV RD2 = "RD2 Radio Dongle (USB)" | inertial transceiver_version $T2 = "1.4.0"
+ | inertial transceiver_available_radio_channel $T1 t80 = 81 | get inertial transceiver_available_radio_channel $T1 t81 -> err 5
+ | inertial transceiver_suggested_radio_channel $T2 = 0 | inertial transceiver_radio_channel_activity $T2 20 = -1.0
+ | inertial transceiver_radio_channel_activity $T1 55 = 1.0 | inertial transceiver_radio_channel_activity $T1 1 = -1.0
+ | inertial limit frequency = 50.0 500.0
 bodies and filters: body number_of_bodies standard b03 = 6 | body number_of_bodies wand = 1 | wand number_of_devices = 1
  | standard max_number_of_bodies = 20 | body calibrated standard b07 = no | body desc standard b05 = ""
- | get body desc standard b21 -> err 5 | body filter6d_strength standard b02 = 0.35 | filter6d available wand = yes
+ | get body desc standard b21 -> err 5 | filter6d available wand = yes
  | body filter6d_preset_available standard b03 preset6d_hybrid = no | body filter6d_mode_available standard b01 mode6d_hybrid = yes
  | filter6d preset_desc preset6d_hybrid_custom = "hybrid custom" | filter6d limit prediction_max = 0.2
-calibrations and status: cal available flux = no | cal type_desc inertial_handeye = "Hybrid body calibration"
+calibrations: cal available flux = no | cal type_desc inertial_handeye = "Hybrid body calibration"
  | cal step_desc inertial_gyro s01 = "Keep the sensors still" | cal step_duration inertial_alignment s02 = 15.0
  | cal step_pause inertial_alignment s02 = yes 5 | cal step_pause inertial_gyro s01 = no 0
- | get cal step_pause inertial_gyro s02 -> err 5 | status active = tracking | status progress = 0.0
- | status step_active = none | status err = 0 ""
+ | get cal step_pause inertial_gyro s02 -> err 5
 sensor settings: set inertial frequency 80.000000 -> ok | inertial sensor_output_frequency $S4 = 80.0
  | set inertial sensor_wakeup_mode $S1 'wm_tap' -> ok | inertial sensor_wakeup_mode $S1 = 'wm_tap'
  | set inertial sensor_sleep_timeout $S1 240 -> ok | inertial sensor_sleep_timeout $S1 = 240
