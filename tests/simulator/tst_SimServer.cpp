@@ -22,14 +22,12 @@ private slots:
 void tst_SimServer::daemon()
 {
     QProcess simd;
-    simd.start(QStringLiteral(SIMD_FILE), {"--port", "65536"});
-    QVERIFY(simd.waitForFinished(5000));
-    QCOMPARE(simd.exitCode(), 2);
-    QCOMPARE(simd.readAllStandardError(), "norvane-simd: --port must be 0 to 65535, not 65536\n");
-    simd.start(QStringLiteral(SIMD_FILE), {"--scenario", "/nonexistent.json"});
-    QVERIFY(simd.waitForFinished(5000));
-    QCOMPARE(simd.exitCode(), 1);
-    QCOMPARE(simd.readAllStandardError(), "norvane-simd: /nonexistent.json: No such file or directory\n");
+    const auto refused = [&simd](const QStringList& arguments) {
+        simd.start(QStringLiteral(SIMD_FILE), arguments);
+        return simd.waitForFinished(5000) ? QString::number(simd.exitCode()) + ' ' + simd.readAllStandardError() : "running";
+    };
+    QCOMPARE(refused({"--port", "65536"}), "2 norvane-simd: --port must be 0 to 65535, not 65536\n");
+    QCOMPARE(refused({"--scenario", "/nonexistent.json"}), "1 norvane-simd: /nonexistent.json: No such file or directory\n");
 
     QTemporaryDir dir;
     QFile scenario(dir.filePath("faults.json"));
@@ -53,11 +51,13 @@ void tst_SimServer::daemon()
         "sensors, scenario .*faults.json, speed 10\\)\n$").match(QString::fromLatin1(log_file.readLine()));
     QVERIFY(banner.hasMatch());
     const quint16 port = quint16(banner.captured(1).toUInt());
-    QTcpSocket clients[2];
-    for (QTcpSocket& client : clients) {
+    const auto connected = [port](QTcpSocket& client) {
+        client.abort();
         client.connectToHost(QHostAddress::LocalHost, port);
-        QVERIFY(client.waitForConnected(5000));
-    }
+        return client.waitForConnected(5000);
+    };
+    QTcpSocket clients[2];
+    QVERIFY(connected(clients[0]) && connected(clients[1]));
     const auto lines = [](QTcpSocket& socket, int count) {
         QByteArray got;
         while (count-- > 0) {
@@ -90,9 +90,7 @@ void tst_SimServer::daemon()
     second.write("norvane get inertial warmup\n");
     QCOMPARE(lines(second, 1), "norvane set inertial warmup no\n");
     QVERIFY2(turn.elapsed() < 1000, qPrintable(QString::number(turn.elapsed())));
-    first.abort();
-    first.connectToHost(QHostAddress::LocalHost, port);
-    QVERIFY(first.waitForConnected(5000));
+    QVERIFY(connected(first));
 
     // One controller for all; a late reply holds up its own client's later
     // replies, nobody else's.
@@ -159,9 +157,7 @@ void tst_SimServer::daemon()
              log.constData());
     // A client that shut its sending side right after its request.
     QTcpSocket& half = clients[0];
-    half.abort();
-    half.connectToHost(QHostAddress::LocalHost, port);
-    QVERIFY(half.waitForConnected(5000));
+    QVERIFY(connected(half));
     half.write("norvane get system type\n");
     QVERIFY(half.waitForBytesWritten(5000));
     QCOMPARE(::shutdown(int(half.socketDescriptor()), SHUT_WR), 0);
