@@ -143,17 +143,14 @@ void tst_FilterDialog::closed_data()
     QTest::addColumn<bool>("lockIcon");
     const Lines lock = {"config is_changeable"}, standard = Lines{"filter6d available standard"} + lock;
     const Lines wand = Lines{"filter6d available wand"} + lock;
-    const QString bodies = "6DOF filter for standard bodies not available";
-    QTest::newRow("locked, standard bodies") << 21 << 0 << QByteArray("config is_changeable=no") << standard
-                                             << bodies << true;
-    QTest::newRow("1.9, the first to lock, no filter yet") << 9 << 1 << QByteArray("config is_changeable=no") << lock
-                                   << "6DOF filter for wands not available" << true;
-    QTest::newRow("no filter for wands") << 21 << 1 << QByteArray("filter6d available wand=no") << wand
-                                         << "6DOF filter for wands not available" << false;
+    const QString bodies = "6DOF filter for standard bodies not available", wands = "6DOF filter for wands not available";
+    const QByteArray locked = "config is_changeable=no";
+    QTest::newRow("locked, standard bodies") << 21 << 0 << locked << standard << bodies << true;
+    QTest::newRow("1.9, the first to lock, no filter yet") << 9 << 1 << locked << lock << wands << true;
+    QTest::newRow("no filter for wands") << 21 << 1 << QByteArray("filter6d available wand=no") << wand << wands << false;
     QTest::newRow("unknown body type") << 21 << 2 << QByteArray("config is_changeable=yes") << lock
                                        << "6DOF filter not available" << false;
-    QTest::newRow("controller 1.8, never locked") << 8 << 0 << QByteArray("config is_changeable=no") << Lines()
-                                                  << bodies << false;
+    QTest::newRow("controller 1.8, never locked") << 8 << 0 << locked << Lines() << bodies << false;
     QTest::newRow("no calibrated wand") << 21 << 1 << QByteArray("wand number_of_devices=0")
                                         << wand + Lines{"wand number_of_devices"} << "No wand is calibrated" << false;
     QTest::newRow("1.12, the first with a filter, no calibrated body") << 12 << 0 << QByteArray("body number_of_bodies standard=0")
