@@ -33,7 +33,6 @@ private slots:
 private:
     template <class T> static T* in(QWidget* w, const char* name) { return w->findChild<T*>(name); }
     static QString text(QWidget* w, const char* name) { return in<QLabel>(w, name)->text(); }
-    // Runs the dialog; `inside` acts in it before it is closed.
     void open(const std::function<void()>& inside);
     // Calibrates body `index` by F3: a run that finishes unless `button` is
     // empty, its result ended by `button` ("none": no result). Gives the
