@@ -47,7 +47,6 @@ private:
     template <class T = QPushButton>
     T* w(const char* name = "progressBar") const { return dlg->findChild<T*>(name); }
     QTableWidgetItem* cell(int row, int column) const { return w<QTableWidget>("tableWidget")->item(row, column); }
-    // Opens the dialog, runs `inside` in its modal loop, then ends it.
     void open(const std::function<void()>& inside);
     // The dialog's own timers drive it, as they do when it runs.
     void tick() { QMetaObject::invokeMethod(timer(200), "timeout"); }
@@ -57,7 +56,6 @@ private:
         const QList<QTimer*> timers = dlg->findChildren<QTimer*>(QString(), Qt::FindDirectChildrenOnly);
         return *std::find_if(timers.begin(), timers.end(), [ms](QTimer* t) { return t->interval() == ms; });
     }
-    // Calibrates both sensors until the controller reports the end.
     void calibrate(const QList<QByteArray>& statuses);
 
     InertialCalibrationDlg* dlg = nullptr;
@@ -220,15 +218,13 @@ void tst_InertialCalibrationDlg::run_to_residuals()
         w<QCheckBox>("checkBox_acceptAll")->setChecked(true);
         QVERIFY(cell(0, 6)->checkState() && cell(1, 6)->checkState() && w("pushButton_apply")->isEnabled());
     });
-    const QByteArray progress1 = "inertial sensor_gyro_progress " + S1, progress2 = "inertial sensor_gyro_progress " + S2;
-    const Lines poll1{"inertial sensor_gyro_calibrate " + S1, progress1};
-    const Lines poll2{"inertial sensor_gyro_calibrate " + S2, progress2};
+    const Lines poll1{"inertial sensor_gyro_calibrate " + S1, "inertial sensor_gyro_progress " + S1};
+    const Lines poll2{"inertial sensor_gyro_calibrate " + S2, "inertial sensor_gyro_progress " + S2};
+    const Lines next{"status progress", "status active"};   // one tick's end, the next one's start
     const Lines expected = Lines{marked(S1, "yes"), marked(S2, "yes"), marked(S3, "no"),
                                  "norvane cal inertial_gyro start", "status active"}
-                           + poll1 + Lines{"inertial new_sensor_gyro_residual " + S1} + poll2
-                           + Lines{"status progress", "status active"} + poll1 + poll2
-                           + Lines{"inertial new_sensor_gyro_residual " + S2, "status progress", "status active"}
-                           + poll1 + poll2 + Lines{"status progress"};
+                           + poll1 + Lines{"inertial new_sensor_gyro_residual " + S1} + poll2 + next + poll1 + poll2
+                           + Lines{"inertial new_sensor_gyro_residual " + S2} + next + poll1 + poll2 + Lines{"status progress"};
     QCOMPARE(fake->lines(), expected);
 }
 
@@ -297,15 +293,14 @@ void tst_InertialCalibrationDlg::apply_data()
 
     const QByteArray accept = "norvane inertial accept_new_sensor_gyro ";
     const QString unread = "Could not set get new residual of sensor: " + S1;
-    QTest::newRow("one kept, one refused") << QByteArray("0.2") << false << Lines{accept + S1, marked(S1, "no"), accept + S2, marked(S2, "no")}
-                                           << QStringList{"101 Norvane IMU left"}
-                                           << QStringList{"Could not accept new calirabtion of sensor: " + S2};
-    QTest::newRow("unticked, not kept") << QByteArray("0.0") << false << Lines{accept + S2, marked(S2, "no")}
-                                        << QStringList() << QStringList{"Could not accept new calirabtion of sensor: " + S2};
-    QTest::newRow("residual unknown: not offered") << QByteArray("-") << false << Lines{accept + S2, marked(S2, "no")}
-        << QStringList() << QStringList{unread, unread, unread,   // asked again at each tick
-                                        "Could not accept new calirabtion of sensor: " + S2};
-    QTest::newRow("failed unmark stops") << QByteArray("0.2") << true << Lines{accept + S1, marked(S1, "no")} << QStringList()
+    const QString refused = "Could not accept new calirabtion of sensor: " + S2;
+    const Lines first{accept + S1, marked(S1, "no")}, second{accept + S2, marked(S2, "no")};
+    QTest::newRow("one kept, one refused") << QByteArray("0.2") << false << first + second
+                                           << QStringList{"101 Norvane IMU left"} << QStringList{refused};
+    QTest::newRow("unticked, not kept") << QByteArray("0.0") << false << second << QStringList() << QStringList{refused};
+    QTest::newRow("residual unknown: not offered") << QByteArray("-") << false << second << QStringList()
+        << QStringList{unread, unread, unread, refused};   // the residual asked again at each tick
+    QTest::newRow("failed unmark stops") << QByteArray("0.2") << true << first << QStringList()
                                          << QStringList{"Could not set calibration of sensor: " + S1};
 }
 

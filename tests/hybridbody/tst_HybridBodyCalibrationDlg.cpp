@@ -33,7 +33,6 @@ private slots:
 private:
     template <class T> static T* in(QWidget* w, const char* name) { return w->findChild<T*>(name); }
     static QString text(QWidget* w, const char* name) { return in<QLabel>(w, name)->text(); }
-    // Runs the dialog; `inside` acts in it before it is closed.
     void open(const std::function<void()>& inside);
     // Calibrates body `index` by F3: a run that finishes unless `button` is
     // empty, its result ended by `button` ("none": no result). Gives the
@@ -202,29 +201,28 @@ void tst_HybridBodyCalibrationDlg::calibration_data()
         return Lines{"inertial new_sensor_delay " + s, "inertial new_sensor_handeye " + s} + then
                + Lines{"inertial sensor_handeye_calibrate " + s + " no", active, "norvane tracking start"};
     };
-    const Lines accepted = result(s, {"norvane inertial accept_new_sensor_handeye " + s});
+    const Lines accepted = result(s, {"norvane inertial accept_new_sensor_handeye " + s}), ran = run(s, true) + accepted;
     const QList<B> usual = {"tracking", "none", "tracking", "tracking", "none"};
     const QString shown = "standard body 0%1|Norvane|IMU 3|0.46|%2|Show &details0Hide &details1%3";
     const QString matrix = " 0.1000 0.4000 0.7000 0.2000 0.5000 0.8000 0.3000 0.6000 0.9124", b1 = "1 (left hand)|10231";
-    QTest::newRow("accepted, matrix by columns") << 0 << usual << B() << B("pushButton_ok")
-        << run(s, true) + accepted << shown.arg(b1, "12.30", matrix) << QStringList();
+    const QString full = shown.arg(b1, "12.30", matrix);
+    QTest::newRow("accepted, matrix by columns") << 0 << usual << B() << B("pushButton_ok") << ran << full << QStringList();
     QTest::newRow("1.12: the first with the dialog, no sensor delay yet") << 0 << usual << B("1.12") << B("pushButton_ok")
         << run(s, true) + accepted.mid(1) << shown.arg(b1, "0.00", matrix) << QStringList();
     QTest::newRow("no result: empty matrix") << 0 << usual << "inertial new_sensor_handeye " + s
-        << B("pushButton_ok") << run(s, true) + accepted << shown.arg(b1, "12.30", QString(9, ' '))
+        << B("pushButton_ok") << ran << shown.arg(b1, "12.30", QString(9, ' '))
         << QStringList{"Error: Unable to get sensor hybrid calibration result"};
     QTest::newRow("flags refused: told, the run goes on") << 0 << usual << "inertial sensor_handeye_calibrate " + s
-        + " yes|body active standard b01 yes|inertial sensor_handeye_calibrate " + s + " no" << B("pushButton_ok")
-        << run(s, true) + accepted << shown.arg(b1, "12.30", matrix) << QStringList{"Could not set hybrid calibration "
-        "of sensor: " + s, "Could not set body settings: standard b01", "Could not reset hybrid calibration status of "
-        "sensor: " + s};
+        + " yes|body active standard b01 yes|inertial sensor_handeye_calibrate " + s + " no" << B("pushButton_ok") << ran
+        << full << QStringList{"Could not set hybrid calibration of sensor: " + s, "Could not set body settings: standard b01",
+                               "Could not reset hybrid calibration status of sensor: " + s};
     QTest::newRow("tracking refused: told, the run goes on") << 0 << usual << B("norvane tracking stop|norvane tracking "
-        "start") << B("pushButton_ok") << run(s, true) + accepted << shown.arg(b1, "12.30", matrix)
+        "start") << B("pushButton_ok") << ran << full
         << QStringList{"Could not stop tracking", "Could not start tracking", "Could not start tracking"};
     QTest::newRow("unreadable bodies left out, the rest offered") << 0 << usual << B("cal available inertial_handeye|"
-        "inertial sensor_present NRV IMU3 '10233'|body inertial_sensor standard b05") << B("pushButton_ok")
-        << run(s, true) + accepted << shown.arg(b1, "12.30", matrix) << QStringList{"Could not get calibration "
-        "information", "Error: Unable to info inertial sensor is present", "Could not get information of sensor: standard b05"};
+        "inertial sensor_present NRV IMU3 '10233'|body inertial_sensor standard b05") << B("pushButton_ok") << ran << full
+        << QStringList{"Could not get calibration information", "Error: Unable to info inertial sensor is present",
+                       "Could not get information of sensor: standard b05"};
     QTest::newRow("no bodies known: nothing to calibrate") << 0 << usual << B("standard number_of_bodies") << B()
         << Lines() << "" << QStringList{"Error: Unable to get number of bodies"};
     QTest::newRow("uncalibrated, unreadable body discarded: inactive again") << 2 << usual
