@@ -818,6 +818,8 @@ void tst_InertialSettingsDlg::laterPages_data()
          "inertial sensor_handeye " + S1 + "=done"}, bodies(0, 0, {}),
         "|green Body 01 S0001 Soft|yellow Body 02 S0003 0.50/20ms/Linear|red Body 03  |green Body 04  10ms/hybrid|"
         "red Body 05  |red Body 06  |0|1|1|1|1");
+    row("an uncalibrated body with a sensor offers no filter", {"body calibrated standard b01=no"}, bodies(0, 0, {}),
+        "|red" + typical.mid(5) + "0|1|0|1|1");
     row("select on a carrying body clears it first", {}, bodies(0, 1, [=] { click("pushButton_select"); return ""; }),
         "|yellow" + typical.mid(5) + "1|1|1|1|1\n> body inertial_sensor standard b01 none\n> body inertial_sensor standard b01 S2");
     row("select refused, deselect without a body", {"body inertial_sensor standard b03"}, bodies(2, 0, [=] {
