@@ -840,6 +840,13 @@ void tst_InertialSettingsDlg::laterPages_data()
         return shown + QString::number(dialog->isVisible());
     }), "Left hand0|" + QString(typical).replace("Body 02", "Right") + "1|1|1|1|1\n> body desc standard b02 \"Right\"\n"
         "! OpenHybridBodyCalibration standard|2|full\n! OpenBodyCalDialog standard b02");
+    row("hybrid calibration: the first body from its row, the second from its sensor on page 1", {}, bodies(0, 0, [=] {
+        click("pushButton_hybridBodyCalibration");
+        QTest::keyClick(dialog, Qt::Key_1);
+        table()->setCurrentCell(5, Id);   // S3
+        click("pushButton_hybridBodyCalibration");
+        return "";
+    }), '|' + typical + "0|1|1|1|1\n! OpenHybridBodyCalibration standard|1|full\n! OpenHybridBodyCalibration standard|2|full");
 
     // Keys on the open dialog (F12: check `radio`), then page 3 as "checked button, value, sensor offered, usable".
     auto pulse = [this](const QList<Qt::Key>& pressed, const char* radio = nullptr) {
