@@ -25,12 +25,12 @@ constexpr int DefaultPauseSeconds = 5;
 constexpr int MaxPauseSeconds = 3600;
 
 const QString ReflexScan = QStringLiteral("reflex_scan");
-const QString None = QStringLiteral("none");
-const QString Err = QStringLiteral("err");
+using ControllerWords::None;
+using ControllerWords::Err;
 const QString Cal = QStringLiteral("cal");
 const QString Wait = QStringLiteral("wait");
-const QString Yes = QStringLiteral("yes");
-const QString CommandDone = QStringLiteral("norvane ok");
+using ControllerWords::Yes;
+using ControllerWords::CommandDone;
 
 QStringList words(const char* reply)
 {

@@ -32,11 +32,11 @@ constexpr int WarmupIntervalMs = 1000;
 // Below this mean warm fraction a gyroscope residual is not to be trusted.
 constexpr double WarmEnough = 0.95;
 
-const QString None = QStringLiteral("none");
-const QString Yes = QStringLiteral("yes");
-const QString No = QStringLiteral("no");
-const QString Err = QStringLiteral("err");
-const QString CommandDone = QStringLiteral("norvane ok");
+using ControllerWords::None;
+using ControllerWords::Yes;
+using ControllerWords::No;
+using ControllerWords::Err;
+using ControllerWords::CommandDone;
 
 const Qt::ItemFlags PresentFlags = Qt::ItemIsSelectable | Qt::ItemIsEnabled;
 const Qt::ItemFlags AbsentFlags = Qt::ItemIsSelectable;

@@ -19,9 +19,9 @@ namespace {
 constexpr double MsPerSecond = 1000.0;
 constexpr double MaxPredictionMs = 3600.0 * MsPerSecond;
 
-const QString Yes = QStringLiteral("yes");
-const QString No = QStringLiteral("no");
-const QString None = QStringLiteral("none");
+using ControllerWords::Yes;
+using ControllerWords::No;
+using ControllerWords::None;
 
 int to_ms(double seconds)
 {

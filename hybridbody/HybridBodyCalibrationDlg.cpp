@@ -19,10 +19,10 @@ namespace {
 
 const char ReceiverName[] = "HybridBodyCalibration";
 const QString OpenRequest = QStringLiteral("OpenHybridBodyCalibration");
-const QString None = QStringLiteral("none");
-const QString Err = QStringLiteral("err");
+using ControllerWords::None;
+using ControllerWords::Err;
 const QString Wait = QStringLiteral("wait");
-const QString CommandDone = QStringLiteral("norvane ok");
+using ControllerWords::CommandDone;
 
 QString body_id(int number)
 {

@@ -40,4 +40,13 @@ public:
     static void report(IOManager* io, const QString& text);
 };
 
+// The controller's words that every dialog compares replies with.
+namespace ControllerWords {
+inline const QString None = QStringLiteral("none");
+inline const QString Yes = QStringLiteral("yes");
+inline const QString No = QStringLiteral("no");
+inline const QString Err = QStringLiteral("err");
+inline const QString CommandDone = QStringLiteral("norvane ok");
+} // namespace ControllerWords
+
 #endif // CONTROLLERTEXT_H

@@ -18,7 +18,7 @@ namespace {
 constexpr int RowHeight = 20;
 constexpr int DefaultMaxBodies = 40;
 
-const QString None = QStringLiteral("none");
+using ControllerWords::None;
 const QString Standard = QStringLiteral("standard");
 
 QTableWidgetItem* text_item(const QString& text, Qt::ItemFlags flags = Qt::ItemIsEnabled | Qt::ItemIsSelectable)
