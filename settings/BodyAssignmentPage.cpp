@@ -196,7 +196,6 @@ void BodyAssignmentPage::update_tableWidget_sensors()
 {
     QTableWidget* table = ui->tableWidget_sensors;
     const int kept = table->currentRow();
-    table->clearContents();
     table->setRowCount(0);
     int count = 0;
     if (io->get_int(&count, "inertial number_of_sensors") != 0) {

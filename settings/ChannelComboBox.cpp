@@ -198,7 +198,6 @@ void ChannelComboBox::decorate()
             if (channel <= 0)
                 continue;
             const bool busy = busy_channels.contains(channel);
-            cell->setFlags(CellFlags);
             // Kept across a new busy list: both marks come from different
             // queries and neither should erase the other.
             if (channel == suggested_channel) {

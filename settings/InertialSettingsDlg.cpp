@@ -632,12 +632,6 @@ bool InertialSettingsDlg::eventFilter(QObject* watched, QEvent* event)
     return QDialog::eventFilter(watched, event);
 }
 
-// --- sensor table ------------------------------------------------------------
-
-// --- wake-up modes -----------------------------------------------------------
-
-// --- frequency ---------------------------------------------------------------
-
 // --- radio channels ----------------------------------------------------------
 
 void InertialSettingsDlg::transceiver_channel_chosen(const QString& transceiver, int channel)

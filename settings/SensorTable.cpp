@@ -99,7 +99,6 @@ void SensorTable::setup_table()
 void SensorTable::update_table()
 {
     QTableWidget* table = ui->tableWidget;
-    table->clearContents();
     table->setRowCount(0);
     sensor_list.clear();
     d->cell_editing = false;
@@ -533,7 +532,6 @@ void SensorTable::update_sensor_calibration(int row, QString identity, bool /*pr
 {
     const int status = getSensorCalibrationStatus(ControllerText::latin(identity).constData());
     QTableWidgetItem* item = ensure_item(row, InertialSettingsDlg::ColCalibration);
-    write_text(item, QString());
     if (status == 1) {
         write_icon(item, d->icon_green);
         write_flags(item, Qt::ItemIsEnabled);

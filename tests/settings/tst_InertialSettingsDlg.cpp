@@ -412,6 +412,7 @@ void tst_InertialSettingsDlg::failures_data()
         "status of sensor");
     row("mode count", {"inertial number_of_wakeup_modes"}, shown(1, 6), Typical + "\n[]" + e + "number of wakeup "
         "modes of inertial system");
+    row("frequency", {"inertial frequency"}, shown(-1, 0), Typical + e + "the inertial frequency");
     row("frequency limits", {"inertial limit frequency"}, shown(-1, 0), Typical + e + "minimum maximum range of the "
         "inertial frequency" + e + "hybrid frequency");
 }
@@ -464,6 +465,7 @@ void tst_InertialSettingsDlg::secondOpeningStartsAfresh()
     delete std::exchange(dialog, new InertialSettingsDlg(fake, host, &versions));
     open([&] { fresh = snapshot(); });
     QCOMPARE(reused, fresh);
+    QCOMPARE(fresh.at(5).section(' ', 1, 1), QString("0"));   // the scan's bar is off until a scan runs
 }
 
 // --- what the user does on the open dialog -----------------------------------------
@@ -735,6 +737,15 @@ void tst_InertialSettingsDlg::channels_data()
             return QString::number(combo->count()) + cell(1, Channel);
         };
     };
+    row("a wheel over a sensor's combos scrolls the table instead", {}, [this] {
+        for (int column : {Channel, Mode}) {
+            QWidget* combo = table()->cellWidget(1, column);
+            QWheelEvent wheel(QPointF(5, 5), QPointF(combo->mapToGlobal(QPoint(5, 5))), QPoint(), QPoint(0, -120),
+                              Qt::NoButton, Qt::NoModifier, Qt::NoScrollPhase, false);
+            QApplication::sendEvent(combo, &wheel);
+        }
+        return cell(1, Channel) + cell(1, Mode);
+    }, "[12][Wake by radio]");
     row("a sensor to another transceiver's channel", {}, sensor("20"), "2[20]\n> inertial sensor_radio_channel S2 20 "
         "@10000");
     row("a sensor's move refused", {"inertial sensor_radio_channel " + S2 + " 20"}, sensor("20"), "2[12]\n> inertial "
@@ -824,13 +835,18 @@ void tst_InertialSettingsDlg::laterPages_data()
         "|yellow" + typical.mid(5) + "1|1|1|1|1\n> body inertial_sensor standard b01 none\n> body inertial_sensor standard b01 S2");
     row("deselect takes the sensor off the body", {}, bodies(0, 0, [=] { click("pushButton_deselect"); return ""; }),
         '|' + typical + "0|1|1|1|1\n> body inertial_sensor standard b01 none");
-    row("select refused, deselect without a body", {"body inertial_sensor standard b03"}, bodies(2, 0, [=] {
+    row("select refused; select and deselect with nothing chosen", {"body inertial_sensor standard b03"}, bodies(2, 0, [=] {
         click("pushButton_select");
         w<QTableWidget>("tableWidget_bodies")->setCurrentCell(-1, -1);
-        QMetaObject::invokeMethod(dialog, "on_pushButton_deselect_clicked");   // the button is off by then
+        QMetaObject::invokeMethod(dialog, "on_pushButton_deselect_clicked");   // the buttons are off by then
+        QMetaObject::invokeMethod(dialog, "on_pushButton_select_clicked");
+        w<QTableWidget>("tableWidget_bodies")->setCurrentCell(2, 0);
+        w<QTableWidget>("tableWidget_sensors")->setCurrentCell(-1, -1);
+        QMetaObject::invokeMethod(dialog, "on_pushButton_select_clicked");
         return "";
-    }), '|' + typical + "1|0|0|0|1" + QString("\n! Error: Unable to get inertial info of body").repeated(2) + "\n! Error: "
-        "Unable to get info of assignment of body.\n! Error: Unable to delete assignment of body. No body is selected");
+    }), '|' + typical + "0|0|0|0|1" + QString("\n! Error: Unable to get inertial info of body").repeated(2) + "\n! Error: "
+        "Unable to get info of assignment of body.\n! Error: Unable to delete assignment of body. No body is selected\n! Error: "
+        "Unable to assgin sensor to body. No body is selected\n! Error: Unable to assgin sensor to body. No sensor is selected");
     row("a quoted name shown bare, written quoted once; calibrations", {"body desc standard b02=\"Left \"\"hand\""},
         bodies(1, 0, [=] {
         auto* name = w<QTableWidget>("tableWidget_bodies")->item(1, 1);
