@@ -510,6 +510,7 @@ void tst_InertialSettingsDlg::refresh_data()
             during = page().section(" | ", 1, 1);
             ModalDialogHelper::close(w);
         });
+        w<QTimer>("firstRefreshTimer")->start();   // as just after the opening
         w<QPushButton>("pushButton_addSensor")->click();
         during += '|' + page().section(" | ", 1, 1);
         // Nothing was added, yet the table is stale: returning to the page rebuilds it.
@@ -811,7 +812,14 @@ void tst_InertialSettingsDlg::laterPages_data()
     auto click = [this](const char* name) { w<QPushButton>(name)->click(); };
     const QString typical = "green Body 01 S0001 |yellow Body 02 S0003 |red Body 03  |green Body 04  |red Body 05  |"
                             "red Body 06  |";
-    row("0 bodies: nothing to choose", {"body number_of_bodies standard=0"}, bodies(0, 0, {}), "|0|0|0|0|0");
+    row("0 bodies: nothing to choose; the sensors' columns", {"body number_of_bodies standard=0"}, bodies(0, 0, [this] {
+        auto* sensors = w<QTableWidget>("tableWidget_sensors");
+        QStringList shown;
+        for (int column = 0; column < sensors->columnCount(); ++column)
+            if (!sensors->isColumnHidden(column))
+                shown << sensors->horizontalHeaderItem(column)->text();
+        return shown.join(',');
+    }), "Device ID,Model,Used|0|0|0|0|0");
     row("the maximum reached, then left", {}, bodies(-1, 0, [this] {
         auto* count = w<QSpinBox>("spinBox_numBodies");
         count->setValue(8);
@@ -883,6 +891,8 @@ void tst_InertialSettingsDlg::laterPages_data()
     row("page changes alone send nothing", {}, pulse({Qt::Key_2, Qt::Key_3, Qt::Key_1, Qt::Key_3}),
         "cameraSynchronous 60 S0001 0");
     row("a sync card at 5 Hz shows 60", {"synccard output_frequency=5"}, pulse({Qt::Key_3}), "cameraSynchronous 60 S0001 0");
+    row("a custom frequency", {"tracking pulse=frequency 250"}, pulse({Qt::Key_3}), "frequency 250 S0001 0");
+    row("following a sensor", {"tracking pulse=inertial_sensor " + S3}, pulse({Qt::Key_3}), "inertialSensor 100 S0003 1");
     row("\"frequency\" without a number", {"tracking pulse=frequency fast"}, pulse({Qt::Key_3}), "frequency 100 S0001 0");
     row("a sensor chosen goes out once, even refused", {"tracking pulse inertial_sensor " + S1},
         pulse({Qt::Key_3, Qt::Key_F12, Qt::Key_1, Qt::Key_3}, "radioButton_inertialSensor"),
