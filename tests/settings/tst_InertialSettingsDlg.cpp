@@ -412,6 +412,8 @@ void tst_InertialSettingsDlg::failures_data()
         "status of sensor");
     row("mode count", {"inertial number_of_wakeup_modes"}, shown(1, 6), Typical + "\n[]" + e + "number of wakeup "
         "modes of inertial system");
+    row("mode description", {"inertial wakeup_mode_desc 'wm_tap'"}, shown(1, 6), Typical + "\n[]" + e
+        + "wakeup description of inertial system");
     row("frequency", {"inertial frequency"}, shown(-1, 0), Typical + e + "the inertial frequency");
     row("frequency limits", {"inertial limit frequency"}, shown(-1, 0), Typical + e + "minimum maximum range of the "
         "inertial frequency" + e + "hybrid frequency");
@@ -584,6 +586,8 @@ void tst_InertialSettingsDlg::deletion_data()
     row("unassigned: only the command", ok, remove(1, QMessageBox::Yes), "Warning: Delete sensor S2?\nT1001 S0001 T1002 "
         "S0005 S0003 cable connected: C0004\n> norvane inertial delete_sensor S2");
     row("assigned: the body let go first", ok, remove(2, QMessageBox::Yes), ask1 + six + delete1);
+    row("deletion refused", {"norvane inertial delete_sensor " + S2}, remove(1, QMessageBox::Yes), "Warning: Delete sensor S2?\n" + Typical
+        + "\n> norvane inertial delete_sensor S2\n! Could not delete sensor S2");
     row("detaching refused: deleted anyway", ok + QList<QByteArray>{"body inertial_sensor standard b01 none"},
         remove(2, QMessageBox::Yes), ask1 + six + delete1 + "\n! Could not set body of sensor: standard b01");
     auto detach = [this](const char* sensor, const QList<QByteArray>& failing) {
@@ -771,8 +775,8 @@ void tst_InertialSettingsDlg::channelScan_data()
             const QBrush greyed = QGuiApplication::palette().brush(QPalette::Disabled, QPalette::Base);
             return QStringList{hint == Red.arg("Please scan available channels") ? "hint" : "", busy.join(','),
                                QString("%1 %2 %3 %4").arg(bar->format()).arg(bar->value()).arg(bar->maximum())
-                                   .arg(bar->isEnabled()), grid->item(1, 5)->background() == greyed ? "grey" : "",
-                               grid->item(1, 3)->background() == QBrush(Qt::green) ? "green" : "",
+                                   .arg(bar->isEnabled()), grid->item(1, 5)->background() == greyed ? grid->item(1, 5)->toolTip() : "",
+                               grid->item(1, 3)->background() == QBrush(Qt::green) ? grid->item(1, 3)->toolTip() : "",
                                w("label_error3")->isVisible() ? "hint" : ""}.join('|');
         };
     };
@@ -780,8 +784,8 @@ void tst_InertialSettingsDlg::channelScan_data()
     const QList<QByteArray> ok{unscanned, "norvane inertial scan_transceiver_radio_channels=norvane ok"};
     const QString done = "|Scanning available channels %p% 10 10 1|";
     const QString command = "\n> norvane inertial scan_transceiver_radio_channels @10000";
-    row("fully occupied, 1.0", ok, scan("=1.0"), "hint|16" + done + "grey|green|" + command);
-    row("nearly occupied, 0.99", ok, scan("=0.99"), "hint|" + done + "|green|" + command);
+    row("fully occupied, 1.0", ok, scan("=1.0"), "hint|16" + done + "Busy channel|Suggested channel|" + command);
+    row("nearly occupied, 0.99", ok, scan("=0.99"), "hint|" + done + "|Suggested channel|" + command);
     row("command not sent", {unscanned, "norvane inertial scan_transceiver_radio_channels"}, scan("=1.0"),
         "hint|| 0 10 0|||hint" + command + "\n! Error: Unable to execute scan transceiver channel");
 }
@@ -891,6 +895,8 @@ void tst_InertialSettingsDlg::laterPages_data()
     row("page changes alone send nothing", {}, pulse({Qt::Key_2, Qt::Key_3, Qt::Key_1, Qt::Key_3}),
         "cameraSynchronous 60 S0001 0");
     row("a sync card at 5 Hz shows 60", {"synccard output_frequency=5"}, pulse({Qt::Key_3}), "cameraSynchronous 60 S0001 0");
+    row("pulse unreadable: nothing checked", {"tracking pulse"}, pulse({Qt::Key_3}), "60 S0001 1" + QString("\n! Error: "
+        "Unable to info of tracking frequency type\n! Error: Unable to info of frequency type").repeated(2));
     row("a custom frequency", {"tracking pulse=frequency 250"}, pulse({Qt::Key_3}), "frequency 250 S0001 0");
     row("following a sensor", {"tracking pulse=inertial_sensor " + S3}, pulse({Qt::Key_3}), "inertialSensor 100 S0003 1");
     row("\"frequency\" without a number", {"tracking pulse=frequency fast"}, pulse({Qt::Key_3}), "frequency 100 S0001 0");
