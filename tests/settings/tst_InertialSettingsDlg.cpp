@@ -644,6 +644,8 @@ void tst_InertialSettingsDlg::wakeupModes_data()
     row("tap: then a sleep time-out", {}, pick(2, "Wake on tap", {}), "Wake on tap, page (mixed)\n" + sent + slept);
     row("time-out refused: the mode stays", {}, pick(2, "Wake on tap", {sleep}), "Wake on tap, page (mixed)\n" + sent
         + slept + "\n! Error: Unable to set sleep timeout of sensor");
+    row("sensor gone: its mode shown again", {}, pick(1, "Wake on tap", {"inertial sensor_present " + S2 + "=no"}),
+        "Wake by radio, page (mixed)\n! Error: Unable to reach sensor");
     // The page's choice: the modes some sensor offers, the current one first.
     auto all = [this](const char* mode) {
         return [=] {
