@@ -312,6 +312,8 @@ void tst_AddInertialSensorDlg::haltedScanAndReopening()
         QVERIFY(dialog->isVisible());   // Escape halts the scan, the dialog stays
         QTest::keyClick(dialog, Qt::Key_F3);   // no second scan while one is halted
         QCOMPARE(fake->count("inertial number_of_sensors") + fake->count("norvane inertial scan_sensors"), 1);
+        w<QPushButton>("pushButton_cancel")->click();   // the halted scan gets a tick to end on
+        QTRY_VERIFY(!w("pushButton_cancel")->isEnabled());
         dialog->hide();
     });
     QCOMPARE(fake->message_texts(), QStringList{"Error: Unable to get informations of dongle 1"});
