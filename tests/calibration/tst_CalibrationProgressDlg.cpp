@@ -101,7 +101,8 @@ void tst_CalibrationProgressDlg::runs_data()
     QTest::newRow("idle, finishes") << "align" << QByteArray("none") << QByteArray("none")
                                     << Lines{status, start, status} << 1 << QStringList();
     QTest::newRow("tracking stopped, fails") << "align" << QByteArray("tracking") << QByteArray("err")
-                                             << Lines{status, "norvane tracking stop", start, status, "norvane get status err"}
+                                             << Lines{status, "norvane tracking stop", start, status,
+                                                      "norvane get status err"}
                                              << 0 << QStringList{"Calibration Error: Lost contact to 'S1'"};
     QTest::newRow("Escape stops") << "align" << QByteArray("err") << QByteArray("escape")
                                   << Lines{status, start, "norvane cal align stop"} << 0 << QStringList();
@@ -150,7 +151,8 @@ void tst_CalibrationProgressDlg::runs()
                  QCOMPARE(dlg->isVisible(), reflex);
              }, type),
              result);
-    QCOMPARE(fake->lines(), Lines({"cal type_desc " + t, "cal number_of_steps " + t, "cal step_pause " + t + " s01"}) + lines);
+    QCOMPARE(fake->lines(),
+             Lines({"cal type_desc " + t, "cal number_of_steps " + t, "cal step_pause " + t + " s01"}) + lines);
     QCOMPARE(countdowns, ending == "declined" ? QList<int>{2} : QList<int>());   // 2.9 s count from 2
     for (const FakeController::Call& call : fake->calls())
         if (call.line.endsWith(" start"))
