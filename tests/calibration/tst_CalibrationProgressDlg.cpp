@@ -22,7 +22,6 @@ private slots:
     void cleanup() { finish(); }
     void runs_data();
     void runs();
-    void declined_countdown_starts_nothing();
     void two_steps_without_pause_mode();
     void two_steps_with_pause_mode();
 
@@ -93,25 +92,28 @@ void tst_CalibrationProgressDlg::runs_data()
 {
     QTest::addColumn<QString>("type");
     QTest::addColumn<QByteArray>("activity");   // before the start
-    QTest::addColumn<QByteArray>("ending");     // status, Escape pressed, or the start refused
+    QTest::addColumn<QByteArray>("ending");     // status, Escape pressed, the start refused or its countdown declined
     QTest::addColumn<Lines>("lines");
     QTest::addColumn<int>("result");
     QTest::addColumn<QStringList>("messages");
 
     const QByteArray start = "norvane cal align start", status = "status active";
     QTest::newRow("idle, finishes") << "align" << QByteArray("none") << QByteArray("none")
-                                    << Lines{start, status} << 1 << QStringList();
+                                    << Lines{status, start, status} << 1 << QStringList();
     QTest::newRow("tracking stopped, fails") << "align" << QByteArray("tracking") << QByteArray("err")
-                                             << Lines{"norvane tracking stop", start, status, "norvane get status err"}
+                                             << Lines{status, "norvane tracking stop", start, status,
+                                                      "norvane get status err"}
                                              << 0 << QStringList{"Calibration Error: Lost contact to 'S1'"};
     QTest::newRow("Escape stops") << "align" << QByteArray("err") << QByteArray("escape")
-                                  << Lines{start, "norvane cal align stop"} << 0 << QStringList();
+                                  << Lines{status, start, "norvane cal align stop"} << 0 << QStringList();
     QTest::newRow("reflex scan ignores Escape") << "reflex_scan" << QByteArray("none") << QByteArray("escape")
-                                                << Lines{"norvane cal reflex_scan start"} << 0 << QStringList();
-    QTest::newRow("waiting for sync") << "align" << QByteArray("wait") << QByteArray() << Lines{} << 0
+                                                << Lines{status, "norvane cal reflex_scan start"} << 0 << QStringList();
+    QTest::newRow("waiting for sync") << "align" << QByteArray("wait") << QByteArray() << Lines{status} << 0
                                       << QStringList{"cannot start calibration, waiting for sync signal"};
-    QTest::newRow("start refused") << "align" << QByteArray("none") << QByteArray("refused") << Lines{start} << 0
+    QTest::newRow("start refused") << "align" << QByteArray("none") << QByteArray("refused") << Lines{status, start} << 0
                                    << QStringList();
+    QTest::newRow("countdown declined, asks nothing more") << "align" << QByteArray("none") << QByteArray("declined")
+                                                           << Lines{} << 0 << QStringList();
 }
 
 void tst_CalibrationProgressDlg::runs()
@@ -123,7 +125,9 @@ void tst_CalibrationProgressDlg::runs()
     QFETCH(int, result);
     QFETCH(QStringList, messages);
 
-    make(false, 1, "no 0");
+    make(false, 1, ending == "declined" ? "yes 2.9" : "no 0");
+    if (ending == "declined")
+        on_countdown("pushButton");
     const QByteArray t = type.toLatin1();
     fake->reply("status active", activity);
     if (ending == "refused")
@@ -132,7 +136,7 @@ void tst_CalibrationProgressDlg::runs()
     fake->reply("norvane get status err", "norvane set status err 31 \"Lost contact to 'S1'\" \"x\"");
     const bool reflex = type == "reflex_scan";
     QStringList seen;
-    const bool shows = !ending.isEmpty() && ending != "refused";
+    const bool shows = !ending.isEmpty() && ending != "refused" && ending != "declined";
     QCOMPARE(run(!shows ? std::function<void()>() : [&] {
                  QCOMPARE(dlg->findChild<QPushButton*>("pb_cancel")->isVisible(), !reflex);
                  QCOMPARE(bool(dlg->windowFlags() & Qt::WindowCloseButtonHint), !reflex);
@@ -147,23 +151,15 @@ void tst_CalibrationProgressDlg::runs()
                  QCOMPARE(dlg->isVisible(), reflex);
              }, type),
              result);
-    QCOMPARE(fake->lines(), Lines({"cal type_desc " + t, "cal number_of_steps " + t, "cal step_pause " + t + " s01",
-                                   "status active"}) + lines);
+    QCOMPARE(fake->lines(),
+             Lines({"cal type_desc " + t, "cal number_of_steps " + t, "cal step_pause " + t + " s01"}) + lines);
+    QCOMPARE(countdowns, ending == "declined" ? QList<int>{2} : QList<int>());   // 2.9 s count from 2
     for (const FakeController::Call& call : fake->calls())
         if (call.line.endsWith(" start"))
             QVERIFY(!call.wait_separately && call.timeout_ms == 5000 && !call.timeout_flag);
     QCOMPARE(fake->message_texts() + seen.mid(1), messages);
     if (reflex)
         QCOMPARE(seen.first(), QString("Sensor reflex_scan\nCurrently this calibration cannot be interrupted!"));
-}
-
-void tst_CalibrationProgressDlg::declined_countdown_starts_nothing()
-{
-    make(false, 1, "yes 2.9");
-    on_countdown("pushButton");
-    QCOMPARE(run(nullptr), 0);
-    QCOMPARE(countdowns, QList<int>({2}));
-    QCOMPARE(fake->count("norvane cal align start"), 0);
 }
 
 void tst_CalibrationProgressDlg::two_steps_without_pause_mode()

@@ -188,15 +188,12 @@ void tst_FilterDialog::openingAndBodyChange()
     Lines refill;
     open([&] {
         QCOMPARE(items("comboBox_body"), QStringList({"left hand (standard body 01)", "standard body 03"}));
-        QCOMPARE(w<QComboBox>("comboBox_body")->currentData().toString(), "standard b03");
         QVERIFY(w("checkBox_active")->isVisible() && w<QCheckBox>("checkBox_active")->isChecked());
         QCOMPARE(chosen("comboBox_preset") + " (" + chosen("comboBox_mode") + ')',
                  "default,custom,hybrid custom/custom (standard,smooth/smooth)");
         QCOMPARE(w<QDoubleSpinBox>("doubleSpinBox_strength")->value(), 0.35);
         auto* ms = w<QSpinBox>("spinBox_prediction");
         QCOMPARE(QList<int>({ms->minimum(), ms->maximum(), ms->value()}), QList<int>({5, 200, 15}));
-        QCOMPARE(enabled(), AllControls);
-        QCOMPARE(w<QLabel>("label_error")->text(), QString());
         ms->setFocus();   // leaving untouched boxes writes nothing
         w("doubleSpinBox_strength")->setFocus();
         QCOMPARE(fake->lines(), Opening);
