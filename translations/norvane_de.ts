@@ -1151,11 +1151,11 @@ Diese Kalibrierung kann zurzeit nicht unterbrochen werden!</translation>
     </message>
     <message>
         <source>Calibrate</source>
-        <translation>Kalibrieren</translation>
+        <translation>Kalibr.</translation>
     </message>
     <message>
         <source>Accept</source>
-        <translation>Übernehmen</translation>
+        <translation>Übern.</translation>
     </message>
     <message>
         <source>Calibrating %p%...</source>
