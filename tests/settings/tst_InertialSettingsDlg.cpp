@@ -872,6 +872,12 @@ void tst_InertialSettingsDlg::laterPages_data()
         return shown + QString::number(dialog->isVisible());
     }), "Left hand0|" + QString(typical).replace("Body 02", "Right") + "1|1|1|1|1\n> body desc standard b02 \"Right\"\n"
         "! OpenHybridBodyCalibration standard|2|full\n! OpenBodyCalDialog standard b02");
+    row("back from another module's dialog: the bodies read again", {}, bodies(0, 0, [=] {
+        script({"body desc standard b02=\"Renamed\""});
+        fake->deliver("InertialModule", 1, "BodyCalibration", "reopen");
+        QCoreApplication::processEvents();   // delivered queued
+        return "";
+    }), '|' + QString(typical).replace("Body 02", "Renamed") + "0|1|1|1|1");
     row("hybrid calibration: the first body from its row, the second from its sensor on page 1", {}, bodies(0, 0, [=] {
         click("pushButton_hybridBodyCalibration");
         QTest::keyClick(dialog, Qt::Key_1);
