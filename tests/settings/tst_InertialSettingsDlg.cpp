@@ -847,8 +847,12 @@ void tst_InertialSettingsDlg::laterPages_data()
         "|red" + typical.mid(5) + "0|1|0|1|1");
     row("select on a carrying body clears it first", {}, bodies(0, 1, [=] { click("pushButton_select"); return ""; }),
         "|yellow" + typical.mid(5) + "1|1|1|1|1\n> body inertial_sensor standard b01 none\n> body inertial_sensor standard b01 S2");
-    row("deselect takes the sensor off the body", {}, bodies(0, 0, [=] { click("pushButton_deselect"); return ""; }),
-        '|' + typical + "0|1|1|1|1\n> body inertial_sensor standard b01 none");
+    row("deselect takes the sensor off the body", {}, bodies(0, 0, [=] {
+        script({"inertial body_of_sensor " + S1 + "=none"});   // as the controller then says
+        click("pushButton_deselect");
+        return "";
+    }),
+        '|' + QString(typical).replace("Body 01 S0001", "Body 01 ") + "1|0|0|0|1\n> body inertial_sensor standard b01 none");
     row("select refused; select and deselect with nothing chosen", {"body inertial_sensor standard b03"}, bodies(2, 0, [=] {
         click("pushButton_select");
         w<QTableWidget>("tableWidget_bodies")->setCurrentCell(-1, -1);
