@@ -500,12 +500,12 @@ void tst_InertialSettingsDlg::refresh_data()
     row("warm-up tick: the live columns", {"inertial warmup=yes"}, tick("sensorDataTimer"),
         s2.arg("100 Hz") + s1.arg("{green}") + s5.arg("") + "2000 ms, then buttonTimer sensorDataTimer");
     row("tracking lost: the page given up", {}, [this] {
-        script({"inertial available=no"});
+        script({"inertial available=no", "inertial number_of_sensors=1"});   // the table shows it at once
         QMetaObject::invokeMethod(dialog, "update_buttons");
         QTest::keyClick(dialog, Qt::Key_3);   // the tracking page given up too
         return page() + '\n' + w<QLabel>("label_error")->text() + QString::number(w("progressBar")->isVisible())
-               + QString::number(w("frame_trackingPulse")->isEnabled());
-    }, "tableWidget numBodies |  | Warmup start\n" + Red.arg("Hybrid tracking is not available!") + "00");
+               + QString::number(w("frame_trackingPulse")->isEnabled()) + ' ' + ids();
+    }, "tableWidget numBodies |  | Warmup start\n" + Red.arg("Hybrid tracking is not available!") + "00 T1001 S0001 T1002");
     row("adding sensors pauses it", {}, [this] {
         QString during;
         ModalDialogHelper::when_active("AddInertialSensorDlg", [&](QWidget* w) {
