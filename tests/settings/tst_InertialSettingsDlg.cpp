@@ -412,6 +412,9 @@ void tst_InertialSettingsDlg::failures_data()
         "status of sensor");
     row("mode count", {"inertial number_of_wakeup_modes"}, shown(1, 6), Typical + "\n[]" + e + "number of wakeup "
         "modes of inertial system");
+    row("transceiver of a sensor: listed with the cables", {"inertial transceiver_of_sensor " + S2}, shown(-1, 0),
+        "T1001 S0001 T1002 S0005 S0003 cable connected: C0004 S0002" + c + "associated transciever of sensor 2, "
+        "transciever not connected?");
     row("mode description", {"inertial wakeup_mode_desc 'wm_tap'"}, shown(1, 6), Typical + "\n[]" + e
         + "wakeup description of inertial system");
     row("frequency", {"inertial frequency"}, shown(-1, 0), Typical + e + "the inertial frequency");
@@ -496,6 +499,12 @@ void tst_InertialSettingsDlg::refresh_data()
                        "{yellow}|{118}\n";
     row("button refresh: every row", {}, tick("buttonTimer"), s2.arg("") + s1.arg("~{red}") + s5.arg("100 Hz")
         + "2000 ms, then buttonTimer notPresentTimer");
+    row("a longer text widens its column", {}, [this] {
+        const int before = table()->columnWidth(4);
+        script({"inertial sensor_version " + S1 + "='2.5.0 with a long build name'"});
+        QMetaObject::invokeMethod(w<QTimer>("buttonTimer"), "timeout");
+        return QString::number(table()->columnWidth(4) - before > 50);
+    }, "1");
     row("presence poll: the absent only, once", {}, tick("notPresentTimer"), s5.arg("") + "2000 ms, then buttonTimer");
     row("warm-up tick: the live columns", {"inertial warmup=yes"}, tick("sensorDataTimer"),
         s2.arg("100 Hz") + s1.arg("{green}") + s5.arg("") + "2000 ms, then buttonTimer sensorDataTimer");
@@ -755,6 +764,10 @@ void tst_InertialSettingsDlg::channels_data()
     }, "[12][Wake by radio]");
     row("a sensor to another transceiver's channel", {}, sensor("20"), "2[20]\n> inertial sensor_radio_channel S2 20 "
         "@10000");
+    row("a sensor's channel unreadable: moved anyway", {}, [=] {
+        script({"inertial sensor_radio_channel " + S2});
+        return sensor("20")();
+    }, "2[20]\n> inertial sensor_radio_channel S2 20 @10000\n! Error: Unable to get radio channel of sensor");
     row("a sensor's move refused", {"inertial sensor_radio_channel " + S2 + " 20"}, sensor("20"), "2[12]\n> inertial "
         "sensor_radio_channel S2 20 @10000\n! Error: Unable to set radio channel of sensor");
 }
