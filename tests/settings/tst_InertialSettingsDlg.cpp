@@ -924,6 +924,8 @@ void tst_InertialSettingsDlg::laterPages_data()
         "Unable to info of tracking frequency type\n! Error: Unable to info of frequency type").repeated(2));
     row("a custom frequency", {"tracking pulse=frequency 250"}, pulse({Qt::Key_3}), "frequency 250 S0001 0");
     row("following a sensor", {"tracking pulse=inertial_sensor " + S3}, pulse({Qt::Key_3}), "inertialSensor 100 S0003 1");
+    row("following a sensor, none left on a body", {"tracking pulse=inertial_sensor " + S3, "inertial body_of_sensor " + S1
+        + "=none", "inertial body_of_sensor " + S3 + "=none"}, pulse({Qt::Key_3}), "inertialSensor 100  0");
     row("\"frequency\" without a number", {"tracking pulse=frequency fast"}, pulse({Qt::Key_3}), "frequency 100 S0001 0");
     row("a sensor chosen goes out once, even refused", {"tracking pulse inertial_sensor " + S1},
         pulse({Qt::Key_3, Qt::Key_F12, Qt::Key_1, Qt::Key_3}, "radioButton_inertialSensor"),
