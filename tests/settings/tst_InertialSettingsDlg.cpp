@@ -651,6 +651,8 @@ void tst_InertialSettingsDlg::wakeupModes_data()
     row("radio: one line", {}, pick(5, "Wake by radio", {}), "Wake by radio, page (mixed)\n"
         "> inertial sensor_wakeup_mode S3 'wm_radio' @10000");
     row("tap: then a sleep time-out", {}, pick(2, "Wake on tap", {}), "Wake on tap, page (mixed)\n" + sent + slept);
+    row("mode refused: the sensor's own shown", {}, pick(2, "Wake on tap", {tap}), "Wake by radio, page (mixed)\n"
+        "> inertial sensor_wakeup_mode S1 'wm_tap' @10000\n! Error: Unable to set wakeup mode of sensor");
     row("time-out refused: the mode stays", {}, pick(2, "Wake on tap", {sleep}), "Wake on tap, page (mixed)\n" + sent
         + slept + "\n! Error: Unable to set sleep timeout of sensor");
     row("sensor gone: its mode shown again", {}, pick(1, "Wake on tap", {"inertial sensor_present " + S2 + "=no"}),
@@ -663,25 +665,27 @@ void tst_InertialSettingsDlg::wakeupModes_data()
             for (int i = 0; i < page->count(); ++i)
                 entries << page->itemText(i);
             const QString before = page->currentText() + ": " + entries.join(", ");
+            const int read = fake->count("inertial sensor_wakeup_mode " + S1);   // a mode that took: only the refresh reads it
             if (page->count())
                 choose(page, mode);
-            return before + " -> " + page->currentText();
+            return before + " -> " + page->currentText() + QString(", S1 read %1").arg(fake->count("inertial "
+                "sensor_wakeup_mode " + S1) - read);
         };
     };
     const QString five = "(mixed): (mixed), Wake on USB, Wake on tap, Wake by radio, Wake on tap and Wake by radio -> ";
     const QString two = "Wake on tap, Wake by radio, Wake on tap and Wake by radio -> ";
     const QString on = "\n> inertial sensor_wakeup_mode ";
     const QString off = "\n> inertial sensor_sleep_timeout ";
-    row("all: radio to every awake sensor offering it", {}, all("Wake by radio"), five + "(mixed)" + on + "S1 'wm_radio' "
+    row("all: radio to every awake sensor offering it", {}, all("Wake by radio"), five + "(mixed), S1 read 1" + on + "S1 'wm_radio' "
         "@10000" + on + "S2 'wm_radio' @10000" + on + "S3 'wm_radio' @10000\n! Error: Unable to reach sensor S5");
     row("all: tap, each with its time-out", {"inertial number_of_sensors=2"}, all("Wake on tap"), "Wake by radio: " + two
-        + "Wake on tap" + on + "S1 'wm_tap' @10000" + off + "S1 10 @10000" + on + "S2 'wm_tap' @10000" + off + "S2 10 @10000");
+        + "Wake on tap, S1 read 1" + on + "S1 'wm_tap' @10000" + off + "S1 10 @10000" + on + "S2 'wm_tap' @10000" + off + "S2 10 @10000");
     row("all: exactly tap and radio, tap first", {"inertial number_of_sensors=2", "inertial sensor d02=" + S3},
-        all("Wake on tap and Wake by radio"), "Wake on tap and Wake by radio: " + two + "Wake by radio" + on + "S1 'wm_tap' "
+        all("Wake on tap and Wake by radio"), "Wake on tap and Wake by radio: " + two + "Wake by radio, S1 read 1" + on + "S1 'wm_tap' "
         "@10000" + off + "S1 10 @10000" + on + "S3 'wm_tap' @10000" + off + "S3 10 @10000" + on + "S1 'wm_radio' @10000" + on
         + "S3 'wm_radio' @10000");
     row("all: only the cable sensor", {"inertial number_of_sensors=1", "inertial sensor d01=NRV IMU6 'C0004'"},
-        all("Wake on USB"), "Wake on USB: Wake on USB -> Wake on USB" + on + "C4 'wm_usb' @10000" + off + "C4 10 @10000");
+        all("Wake on USB"), "Wake on USB: Wake on USB -> Wake on USB, S1 read 0" + on + "C4 'wm_usb' @10000" + off + "C4 10 @10000");
 }
 
 void tst_InertialSettingsDlg::frequency_data()
@@ -701,6 +705,11 @@ void tst_InertialSettingsDlg::frequency_data()
         "> inertial frequency 120.000000\n! Error: Unable to set frequency of inertial system");
     row("limits unreadable: 1 to 1000", {hz50, "inertial limit frequency=low high"}, set(900.0),
         "1 to 1000: 900\n> inertial frequency 900.000000" + limits);
+    row("refused, then unreadable", {hz50, "inertial frequency 120.000000"}, [=] {
+        script({"inertial frequency"});
+        return set(120.0)();
+    }, "1 to 500: 120\n> inertial frequency 120.000000\n! Error: Unable to set frequency of inertial system\n! Error: "
+        "Unable to get the inertial frequency");
     row("one limit only", {hz50, "inertial limit frequency=250"}, set(0.5), "1 to 1000: 1\n> inertial frequency "
         "1.000000" + limits);
 }
