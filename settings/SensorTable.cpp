@@ -4,7 +4,6 @@
 #include <cmath>
 
 #include "RadioChannels.h"
-#include "SensorTable.h"
 #include "SettingsCells.h"
 #include "WakeupModes.h"
 #include "module/ControllerText.h"
@@ -362,6 +361,19 @@ void SensorTable::fill_sensor_row(int row, const SensorIdentity& id, const QStri
     table->setRowHeight(row, RowHeight);
 }
 
+template <class Bar>
+Bar* SensorTable::bar_in(int row, int column)
+{
+    auto* bar = qobject_cast<Bar*>(ui->tableWidget->cellWidget(row, column));
+    if (!bar) {
+        bar = new Bar;
+        bar->setMaximumWidth(ui->tableWidget->columnWidth(column));
+        ui->tableWidget->setCellWidget(row, column, bar);
+        widened(column);
+    }
+    return bar;
+}
+
 QTableWidgetItem* SensorTable::ensure_item(int row, int column)
 {
     QTableWidgetItem* item = ui->tableWidget->item(row, column);
@@ -485,14 +497,7 @@ void SensorTable::update_battery(int row, QString identity, bool present)
     }
     if (!(charge >= 0.0))
         return;
-    auto* bar = qobject_cast<BatteryBar*>(ui->tableWidget->cellWidget(row, InertialSettingsDlg::ColBattery));
-    if (!bar) {
-        bar = new BatteryBar;
-        bar->setMaximumWidth(ui->tableWidget->columnWidth(InertialSettingsDlg::ColBattery));
-        ui->tableWidget->setCellWidget(row, InertialSettingsDlg::ColBattery, bar);
-        widened(InertialSettingsDlg::ColBattery);
-    }
-    bar->setValue(charge);
+    bar_in<BatteryBar>(row, InertialSettingsDlg::ColBattery)->setValue(charge);
 }
 
 void SensorTable::update_temperature(int row, QString identity, bool present)
@@ -516,13 +521,7 @@ void SensorTable::update_temperature(int row, QString identity, bool present)
     }
     if (!(reading[0] > 0.0) || !std::isfinite(reading[0]))
         return;
-    auto* bar = qobject_cast<TemperatureBar*>(ui->tableWidget->cellWidget(row, InertialSettingsDlg::ColTemperature));
-    if (!bar) {
-        bar = new TemperatureBar;
-        bar->setMaximumWidth(ui->tableWidget->columnWidth(InertialSettingsDlg::ColTemperature));
-        ui->tableWidget->setCellWidget(row, InertialSettingsDlg::ColTemperature, bar);
-        widened(InertialSettingsDlg::ColTemperature);
-    }
+    auto* bar = bar_in<TemperatureBar>(row, InertialSettingsDlg::ColTemperature);
     bar->setTemperature(reading[0]);
     const double warm = reading[1] > 0.0 && std::isfinite(reading[1]) ? reading[0] / reading[1] : 0.0;
     bar->setValue(qRound(qBound(0.0, warm * 100.0, 100.0)));

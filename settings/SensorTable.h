@@ -45,6 +45,9 @@ public:
     int row_for_sensor(const QString& transceiver, const QString& identity);
     void fill_sensor_row(int row, const SensorIdentity& id, const QString& body, int index);
     QTableWidgetItem* ensure_item(int row, int column);
+    // The row's bar in `column`, made on first use.
+    template <class Bar>
+    Bar* bar_in(int row, int column);
     // Writes to a cell only what differs from what it shows: every write
     // makes the view measure and paint again, and the periodic refresh
     // mostly finds nothing new.
@@ -59,7 +62,7 @@ public:
     void remove_cell_widget(int row, int column);
     QString sensor_identity_of_row(int row) const;
     bool set_present_status_of_sensor(int row, QString identity);
-    void update_four_columns(int row, QString , bool present);
+    void update_four_columns(int row, QString identity, bool present);
     void update_firmware(int row, QString identity, bool present);
     void update_battery(int row, QString identity, bool present);
     void update_temperature(int row, QString identity, bool present);
